@@ -1,0 +1,107 @@
+#!/usr/bin/python3
+"""Start-up time, memory and idle CPU of the shell against a minimal Qt Quick window.
+
+Runs inside an X server (scripts/bench starts one). Prints one BENCH line per figure:
+  BENCH <name> ratio=<ours/floor> ours=<value><unit> floor=<value><unit>
+Ratios are medians over interleaved rounds, so machine noise hits both sides alike.
+"""
+import os
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+BUILD = sys.argv[1]
+ROUNDS = int(os.environ.get("BENCH_ROUNDS", "5"))
+IDLE_ROUNDS = int(os.environ.get("BENCH_IDLE_ROUNDS", "2"))
+IDLE_SECONDS = float(os.environ.get("BENCH_IDLE_SECONDS", "20"))
+TICK = os.sysconf("SC_CLK_TCK")
+
+SHELL = os.path.join(BUILD, "src", "norbix-shell")
+FLOOR = os.path.join(BUILD, "bench", "bench_minimal_window")
+
+
+def environment(sandbox):
+    env = dict(os.environ)
+    env.update(NORBIX_SIMULATE="1", NORBIX_ROOT=os.path.join(sandbox, "root"), HOME=os.path.join(sandbox, "home"))
+    env.pop("NORBIX_COMMAND_LOG", None)
+    os.makedirs(env["NORBIX_ROOT"], exist_ok=True)
+    os.makedirs(env["HOME"], exist_ok=True)
+    return env
+
+
+def start(program, sandbox):
+    shutil.copy(os.path.join(BUILD, "quarnos.ttf"), sandbox)
+    args = [program, "--first-frame-marker", "--size", "1280x720"] if program == SHELL else [program]
+    began = time.monotonic()
+    proc = subprocess.Popen(args, cwd=sandbox, env=environment(sandbox), stdout=subprocess.PIPE,
+                            stderr=subprocess.DEVNULL, text=True)
+    for line in proc.stdout:
+        if "norbix: first frame" in line:
+            return proc, (time.monotonic() - began) * 1000.0
+    raise RuntimeError(f"{program} ended without a first frame")
+
+
+def rss_kib(pid):
+    with open(f"/proc/{pid}/status") as status:
+        for line in status:
+            if line.startswith("VmRSS:"):
+                return int(line.split()[1])
+    return 0
+
+
+def cpu_seconds(pid):
+    with open(f"/proc/{pid}/stat") as stat:
+        fields = stat.read().rsplit(")", 1)[1].split()
+    return (int(fields[11]) + int(fields[12])) / TICK
+
+
+def stop(proc):
+    proc.terminate()
+    try:
+        proc.wait(5)
+    except subprocess.TimeoutExpired:
+        proc.kill()
+        proc.wait()
+
+
+def measure(program, idle):
+    with tempfile.TemporaryDirectory() as sandbox:
+        proc, first_frame = start(program, sandbox)
+        try:
+            time.sleep(2.0)  # let start-up work (background reads, first layouts) finish
+            rss = rss_kib(proc.pid)
+            share = None
+            if idle:
+                before, t0 = cpu_seconds(proc.pid), time.monotonic()
+                time.sleep(IDLE_SECONDS)
+                share = 100.0 * (cpu_seconds(proc.pid) - before) / (time.monotonic() - t0)
+            return first_frame, rss, share
+        finally:
+            stop(proc)
+
+
+def main():
+    frames, memory, idle = {"ours": [], "floor": []}, {"ours": [], "floor": []}, {"ours": [], "floor": []}
+    for round_no in range(max(ROUNDS, IDLE_ROUNDS)):
+        for side, program in (("ours", SHELL), ("floor", FLOOR)):
+            first_frame, rss, share = measure(program, round_no < IDLE_ROUNDS)
+            frames[side].append(first_frame)
+            memory[side].append(rss)
+            if share is not None:
+                idle[side].append(share)
+
+    def report(name, values, unit, divisor_min=None, fmt="{:.0f}"):
+        ours, floor = statistics.median(values["ours"]), statistics.median(values["floor"])
+        divisor = max(floor, divisor_min) if divisor_min is not None else floor
+        print(f"BENCH {name} ratio={ours / divisor:.2f} ours={fmt.format(ours)}{unit} floor={fmt.format(floor)}{unit}")
+
+    report("startup_first_frame", frames, "ms")
+    report("startup_rss", {k: [v / 1024.0 for v in vals] for k, vals in memory.items()}, "MiB", fmt="{:.1f}")
+    report("idle_cpu", idle, "%", divisor_min=0.5, fmt="{:.2f}")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,147 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
+
+// Centred modal dialog with title, message, custom content and OK/Cancel.
+Popup {
+    id: dialog
+
+    property string title
+    property string message
+    property string okText: qsTr("OK")
+    property string cancelText: qsTr("Cancel")
+    property bool okEnabled: true
+    property bool showCancel: true
+    property bool destructive: false
+    // Off when the owner validates first and closes the dialog itself.
+    property bool closeOnOk: true
+    default property alias content: body.data
+
+    property bool _confirmed: false
+
+    signal okClicked()
+    signal cancelled()
+
+    function ok() {
+        if (!okEnabled)
+            return;
+        okClicked();
+        if (closeOnOk) {
+            _confirmed = true;
+            close();
+        }
+    }
+
+    // For owners that close the dialog after their own check succeeded.
+    function accept() {
+        _confirmed = true;
+        close();
+    }
+
+    function cancel() {
+        close();
+    }
+
+    parent: Overlay.overlay
+    anchors.centerIn: parent
+    width: parent ? Math.min(Theme.dialogWidth, Math.max(320, parent.width - 2 * Theme.spacingXxl)) : Theme.dialogWidth
+    modal: true
+    focus: true
+    closePolicy: Popup.CloseOnEscape
+    padding: 0
+
+    onAboutToShow: _confirmed = false
+    onClosed: {
+        if (!_confirmed)
+            cancelled();
+    }
+
+    Overlay.modal: Rectangle {
+        color: Theme.scrim
+    }
+
+    enter: Transition {
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: 100 }
+    }
+    exit: Transition {
+        NumberAnimation { property: "opacity"; from: 1; to: 0; duration: 80 }
+    }
+
+    background: Rectangle {
+        radius: Theme.radiusL
+        color: Theme.surface
+        border.color: Theme.border
+    }
+
+    contentItem: ColumnLayout {
+        spacing: 0
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            Layout.margins: Theme.spacingXl
+            Layout.bottomMargin: 0
+            spacing: Theme.spacingS
+
+            Text {
+                Layout.fillWidth: true
+                text: dialog.title
+                color: Theme.text
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.fontTitle + 2
+                font.weight: Font.DemiBold
+                wrapMode: Text.Wrap
+            }
+
+            Text {
+                Layout.fillWidth: true
+                visible: text !== ""
+                text: dialog.message
+                color: Theme.textSecondary
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.fontBody
+                wrapMode: Text.Wrap
+                lineHeight: 1.15
+            }
+        }
+
+        ColumnLayout {
+            id: body
+            Layout.fillWidth: true
+            Layout.margins: Theme.spacingXl
+            Layout.topMargin: Theme.spacingL
+            Layout.bottomMargin: Theme.spacingL
+            spacing: Theme.spacingL
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            implicitHeight: 1
+            color: Theme.border
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.margins: Theme.spacingL
+            Layout.leftMargin: Theme.spacingXl
+            Layout.rightMargin: Theme.spacingXl
+            spacing: Theme.spacingS
+
+            Item {
+                Layout.fillWidth: true
+            }
+
+            SecondaryButton {
+                visible: dialog.showCancel
+                text: dialog.cancelText
+                onClicked: dialog.cancel()
+            }
+
+            NxButton {
+                kind: dialog.destructive ? "danger" : "primary"
+                text: dialog.okText
+                enabled: dialog.okEnabled
+                onClicked: dialog.ok()
+            }
+        }
+    }
+}

@@ -1,0 +1,119 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
+
+// Settings page frame: title bar plus a scrolling, width-limited content column.
+Item {
+    id: page
+
+    property string title
+    property string subtitle
+    property string iconName
+    property int maxContentWidth: Theme.contentMaxWidth
+    property alias headerActions: actionsRow.data
+    property alias flickable: flick
+    default property alias content: contentColumn.data
+
+    // Horizontal geometry shared by title bar and content so both edges line up.
+    readonly property int sideMargin: width >= 1200 ? Theme.spacingHuge : Theme.spacingXxl
+    // The floor keeps wrapped text from collapsing while the page is first sized.
+    readonly property real columnWidth: Math.max(360, Math.min(width - 2 * sideMargin, maxContentWidth))
+    readonly property real columnX: Math.round((width - columnWidth) / 2)
+    readonly property real viewportHeight: flick.height
+
+    Rectangle {
+        id: titleBar
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        height: Math.max(Theme.titleBarHeight, titleColumn.implicitHeight + 2 * Theme.spacingXl)
+        color: Theme.surface
+
+        RowLayout {
+            x: page.columnX
+            width: page.columnWidth
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: Theme.spacingL
+
+            Rectangle {
+                visible: page.iconName !== ""
+                Layout.alignment: Qt.AlignVCenter
+                implicitWidth: 44
+                implicitHeight: 44
+                radius: Theme.radiusM + 2
+                color: Theme.accentSoft
+
+                NxIcon {
+                    anchors.centerIn: parent
+                    name: page.iconName
+                    size: 24
+                    color: Theme.accent
+                }
+            }
+
+            ColumnLayout {
+                id: titleColumn
+                Layout.fillWidth: true
+                Layout.alignment: Qt.AlignVCenter
+                spacing: 2
+
+                Text {
+                    Layout.fillWidth: true
+                    text: page.title
+                    color: Theme.text
+                    font.family: Theme.fontFamily
+                    font.pixelSize: Theme.fontHeadline
+                    font.weight: Font.DemiBold
+                    elide: Text.ElideRight
+                }
+
+                Text {
+                    Layout.fillWidth: true
+                    visible: text !== ""
+                    text: page.subtitle
+                    color: Theme.textSecondary
+                    font.family: Theme.fontFamily
+                    font.pixelSize: Theme.fontBody
+                    wrapMode: Text.Wrap
+                    maximumLineCount: 2
+                    elide: Text.ElideRight
+                }
+            }
+
+            Row {
+                id: actionsRow
+                Layout.alignment: Qt.AlignVCenter
+                spacing: Theme.spacingS
+            }
+        }
+
+        Rectangle {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            height: 1
+            color: Theme.border
+        }
+    }
+
+    Flickable {
+        id: flick
+        anchors.top: titleBar.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        clip: true
+        contentWidth: width
+        contentHeight: contentColumn.implicitHeight + 2 * Theme.spacingXl
+        boundsBehavior: Flickable.StopAtBounds
+        ScrollBar.vertical: NxScrollBar {}
+
+        ColumnLayout {
+            id: contentColumn
+            x: page.columnX
+            y: Theme.spacingXl
+            width: page.columnWidth
+            spacing: Theme.spacingXl
+        }
+    }
+}

@@ -1,0 +1,179 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
+import NorbixUi 1.0
+
+// Home screen shown at power-on.
+Rectangle {
+    id: root
+
+    // Connection tiles: set a model and a tile component; the empty state shows while the grid has no items.
+    property var connectionsModel: null
+    property Component connectionTile: null
+
+    property date now: new Date()
+
+    signal settingsRequested()
+    signal connectionSettingsRequested()
+
+    color: Theme.background
+
+    Timer {
+        interval: 1000
+        repeat: true
+        running: root.visible
+        triggeredOnStart: true
+        onTriggered: root.now = new Date()
+    }
+
+    Rectangle {
+        id: header
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        height: 112
+        color: Theme.navy
+
+        Row {
+            id: brand
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.spacingXxl
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: Theme.spacingM
+
+            Rectangle {
+                anchors.verticalCenter: parent.verticalCenter
+                width: 36
+                height: 36
+                radius: Theme.radiusM
+                color: Theme.accent
+
+                Text {
+                    anchors.centerIn: parent
+                    text: "N"
+                    color: Theme.textOnAccent
+                    font.family: Theme.fontFamily
+                    font.pixelSize: 20
+                    font.weight: Font.Bold
+                }
+            }
+
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: "Norbix"
+                color: Theme.navyTextStrong
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.fontTitle + 2
+                font.weight: Font.DemiBold
+            }
+        }
+
+        Column {
+            anchors.centerIn: parent
+            spacing: 2
+
+            Text {
+                anchors.horizontalCenter: parent.horizontalCenter
+                // Seconds would make the header tick; hours and minutes are enough.
+                text: Qt.formatTime(root.now, Qt.locale().timeFormat(Locale.ShortFormat).replace(/:ss/, ""))
+                color: Theme.navyTextStrong
+                font.family: Theme.fontFamily
+                font.pixelSize: 40
+                font.weight: Font.Light
+            }
+
+            Text {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: Qt.formatDate(root.now, Qt.locale().dateFormat(Locale.LongFormat))
+                color: Theme.navyText
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.fontBody
+            }
+        }
+
+        NxButton {
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.spacingXxl
+            anchors.verticalCenter: parent.verticalCenter
+            kind: "onDark"
+            iconName: "gear"
+            text: qsTr("Settings")
+            onClicked: root.settingsRequested()
+        }
+    }
+
+    Item {
+        id: body
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: header.bottom
+        anchors.bottom: footer.top
+
+        GridView {
+            id: tileGrid
+            anchors.fill: parent
+            anchors.margins: Theme.spacingHuge
+            visible: count > 0
+            clip: true
+            cellWidth: 296
+            cellHeight: 212
+            model: root.connectionsModel
+            delegate: root.connectionTile
+            boundsBehavior: Flickable.StopAtBounds
+            ScrollBar.vertical: NxScrollBar {}
+        }
+
+        EmptyState {
+            anchors.centerIn: parent
+            // Never let the wrapped text collapse to zero width while the window is being sized.
+            width: Math.min(520, Math.max(320, parent.width - 2 * Theme.spacingHuge))
+            visible: tileGrid.count === 0
+            iconName: "monitor"
+            title: qsTr("No connections yet")
+            message: qsTr("Remote desktops and applications will appear here as tiles. An administrator adds them in Settings \u2192 Connections.")
+
+            PrimaryButton {
+                iconName: "gear"
+                text: qsTr("Open connection settings")
+                onClicked: root.connectionSettingsRequested()
+            }
+        }
+    }
+
+    Rectangle {
+        id: footer
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        height: 44
+        color: Theme.surface
+
+        Rectangle {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: parent.top
+            height: 1
+            color: Theme.border
+        }
+
+        Text {
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.spacingXxl
+            anchors.verticalCenter: parent.verticalCenter
+            text: Qt.application.version !== "" ? qsTr("Norbix %1").arg(Qt.application.version) : "Norbix"
+            color: Theme.textMuted
+            font.family: Theme.fontFamily
+            font.pixelSize: Theme.fontSmall
+        }
+
+        Text {
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.spacingXxl
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Thin client terminal")
+            color: Theme.textMuted
+            font.family: Theme.fontFamily
+            font.pixelSize: Theme.fontSmall
+        }
+    }
+}

@@ -1,0 +1,108 @@
+import QtQuick 2.15
+
+// Settings sections in navigation order. Sections marked admin need the administrator password.
+QtObject {
+    id: catalog
+
+    readonly property var groups: [
+        {
+            title: qsTr("Connectivity"),
+            sections: [
+                { id: "connections", title: qsTr("Connections"), icon: "plug", admin: true, page: "",
+                  description: qsTr("Remote sessions that appear as tiles on the home screen.") },
+                { id: "network-wired", title: qsTr("Wired network"), icon: "network", admin: true, page: "",
+                  description: qsTr("Ethernet addressing, DNS and proxy.") },
+                { id: "network-wifi", title: qsTr("Wi-Fi"), icon: "wifi", admin: true, page: "",
+                  description: qsTr("Wireless networks and saved credentials.") },
+                { id: "network-8021x", title: qsTr("802.1X authentication"), icon: "shield", admin: true, page: "",
+                  description: qsTr("Port-based network access control for wired and wireless networks.") },
+                { id: "hostname", title: qsTr("Host name"), icon: "badge", admin: true, page: "",
+                  description: qsTr("The name this terminal uses on the network.") }
+            ]
+        },
+        {
+            title: qsTr("Preferences"),
+            sections: [
+                { id: "displays", title: qsTr("Displays"), icon: "monitor", admin: false, page: "",
+                  description: qsTr("Resolution, arrangement and orientation of connected monitors.") },
+                { id: "power", title: qsTr("Power saving"), icon: "power", admin: false, page: "",
+                  description: qsTr("Screen blanking and standby timing.") },
+                { id: "datetime", title: qsTr("Date & time"), icon: "clock", admin: false, page: "",
+                  description: qsTr("Time zone, clock format and time servers.") },
+                { id: "sound", title: qsTr("Sound"), icon: "sound", admin: false, page: "",
+                  description: qsTr("Output and input devices and volume.") },
+                { id: "keyboard", title: qsTr("Keyboard"), icon: "keyboard", admin: false, page: "",
+                  description: qsTr("Keyboard layout and key repeat.") },
+                { id: "mouse", title: qsTr("Mouse"), icon: "mouse", admin: false, page: "",
+                  description: qsTr("Pointer speed, button order and double-click timing.") },
+                { id: "language", title: qsTr("Language"), icon: "globe", admin: false, page: "",
+                  description: qsTr("Display language and regional formats.") },
+                { id: "wallpaper", title: qsTr("Wallpaper"), icon: "image", admin: false, page: "",
+                  description: qsTr("Background image of the home screen.") }
+            ]
+        },
+        {
+            title: qsTr("Devices"),
+            sections: [
+                { id: "printers", title: qsTr("Printers"), icon: "printer", admin: true, page: "",
+                  description: qsTr("Local and network printers available to sessions.") },
+                { id: "usb-storage", title: qsTr("USB storage"), icon: "usb", admin: true, page: "",
+                  description: qsTr("Access to USB drives on this terminal and in sessions.") }
+            ]
+        },
+        {
+            title: qsTr("Security"),
+            sections: [
+                { id: "certificates", title: qsTr("Certificates"), icon: "award", admin: true, page: "",
+                  description: qsTr("Trusted certificate authorities and client certificates.") },
+                { id: "password", title: qsTr("Administrator password"), icon: "key", admin: true,
+                  page: "AdminPasswordPage.qml",
+                  description: qsTr("The password that protects the advanced settings.") }
+            ]
+        },
+        {
+            title: qsTr("Management"),
+            sections: [
+                { id: "management", title: qsTr("Management server"), icon: "server", admin: true, page: "",
+                  description: qsTr("Central management of this terminal.") },
+                { id: "updates", title: qsTr("Updates"), icon: "update", admin: true, page: "",
+                  description: qsTr("Software updates for this terminal.") },
+                { id: "export", title: qsTr("Export settings"), icon: "upload", admin: true, page: "",
+                  description: qsTr("Save this terminal's configuration to a USB drive.") },
+                { id: "import", title: qsTr("Import settings"), icon: "download", admin: true, page: "",
+                  description: qsTr("Load a configuration from a USB drive.") }
+            ]
+        },
+        {
+            title: qsTr("Support"),
+            sections: [
+                { id: "logs", title: qsTr("Logs"), icon: "document", admin: true, page: "LogsPage.qml",
+                  description: qsTr("Diagnostic messages of this session and export for support.") },
+                { id: "system-info", title: qsTr("System information"), icon: "info", admin: false, page: "",
+                  description: qsTr("Hardware, software version and network details.") }
+            ]
+        }
+    ]
+
+    function find(id) {
+        for (var g = 0; g < groups.length; ++g) {
+            var sections = groups[g].sections;
+            for (var s = 0; s < sections.length; ++s) {
+                if (sections[s].id === id)
+                    return sections[s];
+            }
+        }
+        return null;
+    }
+
+    function firstOpen(adminUnlocked) {
+        for (var g = 0; g < groups.length; ++g) {
+            var sections = groups[g].sections;
+            for (var s = 0; s < sections.length; ++s) {
+                if (adminUnlocked || !sections[s].admin)
+                    return sections[s].id;
+            }
+        }
+        return "";
+    }
+}

@@ -1,0 +1,287 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
+import NorbixUi 1.0
+
+// Settings area: navy navigation on the left, the selected section on the right.
+Item {
+    id: root
+
+    property bool adminUnlocked: false
+    property string currentSection: ""
+
+    signal homeRequested()
+
+    function hasSection(id) {
+        return catalog.find(id) !== null;
+    }
+
+    // Selects a section; an advanced one asks for the administrator password first.
+    function showSection(id) {
+        var entry = catalog.find(id);
+        if (!entry)
+            return false;
+        currentSection = id;
+        if (entry.admin && !adminUnlocked)
+            requestUnlock();
+        return true;
+    }
+
+    function showFirstSection() {
+        currentSection = catalog.firstOpen(adminUnlocked);
+    }
+
+    function requestUnlock() {
+        if (!loginDialog.opened)
+            loginDialog.open();
+    }
+
+    function lock() {
+        loginDialog.close();
+        adminUnlocked = false;
+    }
+
+    // Only for the shell's own page previews, never reachable from the UI.
+    function openUnlocked(id) {
+        adminUnlocked = true;
+        return showSection(id);
+    }
+
+    function isLocked(entry) {
+        return entry.admin && !adminUnlocked;
+    }
+
+    function reloadPage() {
+        var entry = catalog.find(currentSection);
+        if (!entry) {
+            pageLoader.source = "";
+            return;
+        }
+        var props = { title: entry.title, subtitle: entry.description, iconName: entry.icon };
+        var url = isLocked(entry) ? "LockedPage.qml" : entry.page !== "" ? entry.page : "PlaceholderPage.qml";
+        pageLoader.setSource(url, props);
+    }
+
+    function ensureNavVisible(item) {
+        var top = item.mapToItem(navColumn, 0, 0).y;
+        var margin = Theme.spacingL;
+        if (top - margin < navFlick.contentY)
+            navFlick.contentY = Math.max(0, top - margin);
+        else if (top + item.height + margin > navFlick.contentY + navFlick.height)
+            navFlick.contentY = Math.min(navFlick.contentHeight - navFlick.height, top + item.height + margin - navFlick.height);
+    }
+
+    onCurrentSectionChanged: reloadPage()
+    onAdminUnlockedChanged: reloadPage()
+
+    SectionCatalog {
+        id: catalog
+    }
+
+    Rectangle {
+        id: sidebar
+        anchors.left: parent.left
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        width: Theme.sidebarWidth
+        color: Theme.navy
+
+        Item {
+            id: sidebarHeader
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: parent.top
+            height: Theme.titleBarHeight
+
+            IconButton {
+                id: backButton
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.spacingM
+                anchors.verticalCenter: parent.verticalCenter
+                onDark: true
+                iconName: "back"
+                text: qsTr("Back to home")
+                onClicked: root.homeRequested()
+            }
+
+            Text {
+                anchors.left: backButton.right
+                anchors.leftMargin: Theme.spacingS
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.spacingL
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Settings")
+                color: Theme.navyTextStrong
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.fontTitle + 2
+                font.weight: Font.DemiBold
+                elide: Text.ElideRight
+            }
+
+            Rectangle {
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                height: 1
+                color: Theme.navyBorder
+            }
+        }
+
+        Flickable {
+            id: navFlick
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: sidebarHeader.bottom
+            anchors.bottom: lockPanel.top
+            clip: true
+            contentWidth: width
+            contentHeight: navColumn.height + 2 * Theme.spacingS
+            boundsBehavior: Flickable.StopAtBounds
+            ScrollBar.vertical: NxScrollBar {
+                onDark: true
+            }
+
+            Column {
+                id: navColumn
+                x: Theme.spacingM
+                y: Theme.spacingS
+                width: navFlick.width - 2 * Theme.spacingM
+                spacing: 2
+
+                Repeater {
+                    model: catalog.groups
+
+                    delegate: Column {
+                        id: group
+
+                        readonly property var groupData: modelData
+
+                        width: navColumn.width
+                        spacing: 2
+
+                        Item {
+                            width: parent.width
+                            height: 34
+
+                            SectionHeader {
+                                anchors.left: parent.left
+                                anchors.right: parent.right
+                                anchors.bottom: parent.bottom
+                                anchors.leftMargin: Theme.spacingM
+                                anchors.bottomMargin: 6
+                                onDark: true
+                                title: group.groupData.title
+                            }
+                        }
+
+                        Repeater {
+                            model: group.groupData.sections
+
+                            delegate: NavItem {
+                                width: group.width
+                                text: modelData.title
+                                iconName: modelData.icon
+                                locked: modelData.admin && !root.adminUnlocked
+                                selected: root.currentSection === modelData.id
+                                onClicked: root.showSection(modelData.id)
+                                onSelectedChanged: {
+                                    if (selected)
+                                        Qt.callLater(root.ensureNavVisible, this);
+                                }
+                            }
+                        }
+                    }
+                }
+            }
+        }
+
+        Rectangle {
+            id: lockPanel
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            height: lockRow.implicitHeight + 2 * Theme.spacingL
+            color: Theme.navyRaised
+
+            Rectangle {
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.top: parent.top
+                height: 1
+                color: Theme.navyBorder
+            }
+
+            RowLayout {
+                id: lockRow
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                anchors.leftMargin: Theme.spacingL + Theme.spacingXs
+                anchors.rightMargin: Theme.spacingM
+                spacing: Theme.spacingM
+
+                NxIcon {
+                    Layout.alignment: Qt.AlignVCenter
+                    name: root.adminUnlocked ? "unlock" : "lock"
+                    size: 20
+                    color: root.adminUnlocked ? "#5FD39A" : Theme.navyTextMuted
+                }
+
+                ColumnLayout {
+                    Layout.fillWidth: true
+                    Layout.alignment: Qt.AlignVCenter
+                    spacing: 0
+
+                    Text {
+                        Layout.fillWidth: true
+                        text: qsTr("Advanced settings")
+                        color: Theme.navyTextStrong
+                        font.family: Theme.fontFamily
+                        font.pixelSize: Theme.fontSmall
+                        font.weight: Font.DemiBold
+                        elide: Text.ElideRight
+                    }
+
+                    Text {
+                        Layout.fillWidth: true
+                        text: root.adminUnlocked ? qsTr("Unlocked") : qsTr("Locked")
+                        color: Theme.navyTextMuted
+                        font.family: Theme.fontFamily
+                        font.pixelSize: Theme.fontCaption
+                        elide: Text.ElideRight
+                    }
+                }
+
+                NxButton {
+                    Layout.alignment: Qt.AlignVCenter
+                    implicitHeight: 36
+                    kind: "onDark"
+                    text: root.adminUnlocked ? qsTr("Lock") : qsTr("Unlock")
+                    onClicked: root.adminUnlocked ? root.lock() : root.requestUnlock()
+                }
+            }
+        }
+    }
+
+    Loader {
+        id: pageLoader
+        anchors.left: sidebar.right
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+    }
+
+    Connections {
+        target: pageLoader.item
+        ignoreUnknownSignals: true
+
+        function onUnlockRequested() {
+            root.requestUnlock();
+        }
+    }
+
+    AdminLoginDialog {
+        id: loginDialog
+        onUnlocked: root.adminUnlocked = true
+    }
+}

@@ -1,0 +1,36 @@
+# Shared by scripts/run, scripts/test and scripts/bench: packages, configure, build.
+# shellcheck shell=bash
+
+NORBIX_TOP=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+# Every Debian package the build, the tests and the simulated terminal need.
+NORBIX_PACKAGES=(
+    build-essential cmake ninja-build ccache pkg-config fonts-dejavu-core
+    qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev libqt5websockets5-dev qttools5-dev qttools5-dev-tools
+    qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-templates2
+    qml-module-qtquick-layouts qml-module-qtqml-models2 qml-module-qtquick-shapes
+    libssl-dev openssl libvncserver-dev
+    xvfb xauth x11-xserver-utils
+)
+
+norbix_install_packages() {
+    local missing=()
+    local pkg
+    for pkg in "${NORBIX_PACKAGES[@]}" "$@"; do
+        dpkg-query -W -f='${Status}' "$pkg" 2>/dev/null | grep -q "install ok installed" || missing+=("$pkg")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    echo "== Installing: ${missing[*]}"
+    local sudo=()
+    [ "$(id -u)" -ne 0 ] && sudo=(sudo)
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+# norbix_build BUILD_DIR [cmake options...]
+norbix_build() {
+    local dir=$1
+    shift
+    cmake -S "$NORBIX_TOP" -B "$dir" -G Ninja "$@" >/dev/null || return 1
+    cmake --build "$dir" -- -j"$(nproc)"
+}

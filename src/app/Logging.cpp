@@ -1,0 +1,131 @@
+#include "Logging.h"
+
+#include "SystemPaths.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QSettings>
+#include <QTextStream>
+
+#include <csignal>
+#include <cstdio>
+
+namespace {
+QMutex g_logMutex;
+
+[[noreturn]] void crashDeliberately()
+{
+    // A fatal message ends in the crash handler, which prints the stack and exits with status 1.
+    volatile int* volatile nowhere = nullptr;
+    *nowhere = 0;
+    std::raise(SIGSEGV);
+    std::_Exit(1);
+}
+} // namespace
+
+namespace Logging {
+
+QString logDirectory()
+{
+    return QDir::homePath() + QStringLiteral("/logs");
+}
+
+QString logFilePath(const QDate& day)
+{
+    return QDir::homePath() + QStringLiteral("/logs/log-%1.txt").arg(day.toString(QStringLiteral("dd-MM-yyyy")));
+}
+
+bool debugEnabled()
+{
+    return QSettings(SystemPaths::dataFile(QStringLiteral("api.ini")), QSettings::IniFormat)
+        .value(QStringLiteral("DebugLogs"), false)
+        .toBool();
+}
+
+void deleteOldFiles(int days, const QDate& today)
+{
+    const QFileInfoList files = QDir(logDirectory() + QLatin1Char('/'))
+                                    .entryInfoList({QStringLiteral("*.txt")}, QDir::Files, QDir::Unsorted);
+    for (const QFileInfo& info : files) {
+        // Birth time where the file system keeps it, the inode change time otherwise.
+        const QDateTime created = info.birthTime().isValid() ? info.birthTime() : info.metadataChangeTime();
+        if (created.date().daysTo(today) > days && QFile::remove(info.absoluteFilePath()))
+            qDebug().noquote() << QStringLiteral("File ") + info.absoluteFilePath() + QStringLiteral(" is deleted!");
+    }
+}
+
+} // namespace Logging
+
+void deleteoldfiles(int days)
+{
+    Logging::deleteOldFiles(days, QDate::currentDate());
+}
+
+void customMessageOutput(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    QMutexLocker locker(&g_logMutex);
+
+    const QDateTime now = QDateTime::currentDateTime();
+    const QByteArray stamp = now.toString(QStringLiteral("dd.MM.yy hh:mm:ss.zzz")).toUtf8();
+    const QByteArray function = context.function ? QByteArray(context.function) : QByteArray();
+    const unsigned line = static_cast<unsigned>(context.line);
+    const QByteArray text = message.toUtf8();
+
+    QDir home(QDir::homePath());
+    if (!home.exists(QStringLiteral("logs")))
+        home.mkdir(QStringLiteral("logs"));
+
+    QFile file(Logging::logFilePath(now.date()));
+    // Without a writable log directory the console still gets every line.
+    QByteArray unwritable;
+    QTextStream out(&unwritable);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
+        out.setDevice(&file);
+    out.setCodec("UTF-8");
+    const QString prefix = QLatin1Char('[') + QString::fromUtf8(stamp) + QStringLiteral("] [") + QString::fromUtf8(function)
+        + QLatin1Char('@') + QString::number(line) + QStringLiteral("] ");
+
+    auto console = [&](FILE* stream, const char* level) {
+        std::fprintf(stream, "[%s] [%s@%u] [%s] %s\r\n", stamp.constData(), function.constData(), line, level, text.constData());
+        std::fflush(stream);
+    };
+
+    switch (type) {
+    case QtDebugMsg:
+        if (Logging::debugEnabled()) {
+            std::fprintf(stdout, "[%s] [%s@%u] [DEBUG] %s\n", stamp.constData(), function.constData(), line, text.constData());
+            std::fflush(stdout);
+            out << prefix << message << Qt::endl;
+        } else {
+            out << "";
+        }
+        break;
+    case QtInfoMsg:
+        console(stdout, "INFO");
+        out << prefix << "[INFO] " << message << Qt::endl;
+        break;
+    case QtWarningMsg:
+        console(stdout, "WARNING");
+        out << prefix << "[WARNING] " << message << Qt::endl;
+        break;
+    case QtCriticalMsg:
+        console(stderr, "CRITICAL");
+        out << prefix << "[CRITICAL] " << message << Qt::endl;
+        break;
+    case QtFatalMsg:
+        console(stderr, "FATAL");
+        out << prefix << "[FATAL] " << message << Qt::endl;
+        out.flush();
+        file.close();
+        crashDeliberately();
+    }
+
+    out.flush();
+    file.close();
+    deleteoldfiles(7);
+}

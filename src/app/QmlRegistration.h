@@ -1,0 +1,18 @@
+#pragma once
+
+#include "CryptoUtils.h"
+#include "HardwareUtils.h"
+
+class QQmlContext;
+
+// Registers every backend type with the QML engine, in the order the screens were built against.
+void registerQmlTypes();
+
+// The objects the screens reach as context properties. Made by `main`, they live until it returns.
+struct ContextObjects {
+    HardwareUtils hardwareUtils;
+    CryptoUtils cryptoUtils;
+
+    // Publishes them (logging the models' "prepare" lines), then logs "Models ready".
+    void publish(QQmlContext* context);
+};

@@ -1,0 +1,112 @@
+#include "Shell.h"
+
+#include "CommandRunner.h"
+#include "CrashHandler.h"
+#include "FileMigration.h"
+#include "HardwareUtils.h"
+#include "LanguageBackend.h"
+#include "Logging.h"
+#include "QmlRegistration.h"
+#include "RenderingSetup.h"
+#include "ShellOptions.h"
+#include "SystemPaths.h"
+#include "WindowPresenter.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QFontDatabase>
+#include <QQmlApplicationEngine>
+#include <QSettings>
+
+#include <cstdio>
+
+namespace {
+
+constexpr const char* kVersion = "1.2.16";
+
+void loadFont()
+{
+    const int id = QFontDatabase::addApplicationFont(QStringLiteral("quarnos.ttf"));
+    const QStringList families = QFontDatabase::applicationFontFamilies(id);
+    if (families.isEmpty()) {
+        qWarning() << "Cannot load the font quarnos.ttf";
+        return;
+    }
+    qInfo().noquote() << families.first();
+}
+
+void loadTranslation(QApplication& app)
+{
+    const QString code = QSettings(SystemPaths::dataFile(QStringLiteral("language.ini")), QSettings::IniFormat)
+                             .value(QStringLiteral("Language"), QStringLiteral("en"))
+                             .toString();
+    QTranslator* translator = LanguageBackend::getInstance()->translator();
+    if (translator->load(QStringLiteral("norbix_") + code + QStringLiteral(".qm")))
+        app.installTranslator(translator);
+}
+
+QString kernelDescription()
+{
+    QString text = QString::fromLocal8Bit(
+        CommandRunner::instance().run(QStringLiteral("uname"), {QStringLiteral("-a")}).standardOutput);
+    text.remove(QLatin1Char('\n'));
+    text.remove(QLatin1Char('\\'));
+    return text;
+}
+
+} // namespace
+
+int runShell(int argc, char* argv[])
+{
+    const ShellOptions options = ShellOptions::parse(argc, argv);
+    if (!options.error.isEmpty()) {
+        std::fprintf(stderr, "norbix-shell: %s\n", qPrintable(options.error));
+        return 2;
+    }
+
+    qWarning("Install message handled");
+    qInstallMessageHandler(customMessageOutput);
+    qWarning("Message handler set");
+
+    qWarning("Set signal hanlder");
+    installCrashHandler();
+    qWarning("Signal handler set");
+
+    qWarning("migrateFiles()");
+    migrateFiles();
+    qWarning("migrateFiles() end");
+
+    qWarning("Version: %s", kVersion);
+
+    QCoreApplication::setAttribute(Qt::AA_UseOpenGLES, true);
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("norbix-shell"));
+    QApplication::setApplicationVersion(QString::fromLatin1(kVersion));
+    chooseSceneGraphBackend();
+
+    loadFont();
+    loadTranslation(app);
+
+    QQmlApplicationEngine engine;
+    engine.addImportPath(QStringLiteral("qrc:/custom"));
+    LanguageBackend::getInstance()->setEngine(&engine);
+    LanguageBackend::getInstance()->asyncRead();
+
+    registerQmlTypes();
+
+    ContextObjects contextObjects;
+    contextObjects.publish(engine.rootContext());
+
+    const QString identity = HardwareUtils::deviceIdentity(HardwareUtils::inventory());
+    const QString kernel = kernelDescription();
+    qDebug().noquote() << "Device" << identity << kernel;
+
+    engine.load(QUrl(QStringLiteral("qrc:/vorplex/Main.qml")));
+    std::unique_ptr<WindowPresenter> presenter;
+    if (!engine.rootObjects().isEmpty())
+        presenter = std::make_unique<WindowPresenter>(engine.rootObjects().constFirst(), options);
+    else if (!options.screenshotFile.isEmpty())
+        return 3; // nothing to grab
+
+    return app.exec();
+}

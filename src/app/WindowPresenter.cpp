@@ -1,0 +1,71 @@
+#include "WindowPresenter.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QImage>
+#include <QPixmap>
+#include <QScreen>
+#include <QQuickWindow>
+#include <QVariant>
+
+#include <cstdio>
+
+WindowPresenter::WindowPresenter(QObject* root, const ShellOptions& options, QObject* parent)
+    : QObject(parent), m_window(qobject_cast<QQuickWindow*>(root)), m_options(options)
+{
+    if (!m_window) {
+        qWarning() << "The root screen is not a window";
+        return;
+    }
+    if (!options.page.isEmpty() && !QMetaObject::invokeMethod(root, "openPage", Q_ARG(QVariant, options.page)))
+        qWarning() << "The root screen cannot open" << options.page;
+
+    if (!options.screenshotFile.isEmpty()) {
+        m_settle.setSingleShot(true);
+        m_settle.setInterval(400);
+        connect(&m_settle, &QTimer::timeout, this, &WindowPresenter::saveScreenshot);
+        m_deadline.setSingleShot(true);
+        m_deadline.setInterval(8000);
+        connect(&m_deadline, &QTimer::timeout, this, &WindowPresenter::saveScreenshot);
+    }
+    if (!options.screenshotFile.isEmpty() || options.firstFrameMarker)
+        connect(m_window, &QQuickWindow::frameSwapped, this, &WindowPresenter::onFrameSwapped);
+
+    if (options.size.isValid()) {
+        m_window->resize(options.size);
+        m_window->show();
+    } else {
+        m_window->showFullScreen();
+    }
+}
+
+void WindowPresenter::onFrameSwapped()
+{
+    if (!m_firstFrameSeen) {
+        m_firstFrameSeen = true;
+        if (m_options.firstFrameMarker) {
+            std::fputs("norbix: first frame\n", stdout);
+            std::fflush(stdout);
+        }
+        if (!m_options.screenshotFile.isEmpty())
+            m_deadline.start();
+    }
+    if (!m_options.screenshotFile.isEmpty())
+        m_settle.start();
+}
+
+void WindowPresenter::saveScreenshot()
+{
+    m_settle.stop();
+    m_deadline.stop();
+    QImage image = m_window->grabWindow();
+    // The software renderer cannot always read back its own frame; the platform still has it.
+    if (image.isNull() && m_window->screen())
+        image = m_window->screen()->grabWindow(m_window->winId()).toImage();
+    if (image.isNull() || !image.save(m_options.screenshotFile, "PNG")) {
+        qCritical() << "Cannot save the screenshot to" << m_options.screenshotFile << (image.isNull() ? "(nothing rendered)" : "");
+        QCoreApplication::exit(2);
+        return;
+    }
+    QCoreApplication::exit(0);
+}

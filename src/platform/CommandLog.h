@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// Appends {"program","args","detached"} as one JSON line to $NORBIX_COMMAND_LOG, if set.
+namespace CommandLog {
+void record(const QString& program, const QStringList& arguments, bool detached);
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "CommandRunner.h"
+
+// Runs commands for real through QProcess.
+class ProcessRunner : public CommandRunner {
+protected:
+    CommandResult execute(const QString& program, const QStringList& arguments) override;
+    bool executeDetached(const QString& program, const QStringList& arguments, qint64* pid) override;
+    std::unique_ptr<RunningProcess> executeProcess(const QString& program, const QStringList& arguments) override;
+};

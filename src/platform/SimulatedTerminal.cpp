@@ -1,0 +1,197 @@
+#include "SimulatedTerminal.h"
+
+#include "SystemPaths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QRegularExpression>
+#include <QTimer>
+
+#include <utility>
+
+static void initFixtureResources()
+{
+    Q_INIT_RESOURCE(simulation);
+}
+
+namespace {
+
+QMutex g_handlersMutex;
+std::vector<SimulatedTerminal::Handler>& handlers()
+{
+    static std::vector<SimulatedTerminal::Handler> list;
+    return list;
+}
+
+QByteArray fixture(const QString& name)
+{
+    QFile file(QStringLiteral(":/simulation/") + name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qWarning() << "simulated terminal: missing fixture" << name;
+        return {};
+    }
+    return file.readAll();
+}
+
+SimulatedTerminal::Answer succeeded(const QByteArray& output = {})
+{
+    SimulatedTerminal::Answer answer;
+    answer.result.started = true;
+    answer.result.finished = true;
+    answer.result.exitCode = 0;
+    answer.result.standardOutput = output;
+    return answer;
+}
+
+// "bash -c '... mkdir -p /x ...'" makes the folders inside the sandbox, so the data directory exists
+// as it would on a terminal.
+std::optional<SimulatedTerminal::Answer> bashMkdir(const QString& program, const QStringList& arguments)
+{
+    if (program != QLatin1String("bash") || arguments.size() != 2 || arguments.at(0) != QLatin1String("-c"))
+        return std::nullopt;
+    static const QRegularExpression mkdir(QStringLiteral("mkdir -p (/\\S+)"));
+    auto it = mkdir.globalMatch(arguments.at(1));
+    if (!it.hasNext())
+        return std::nullopt;
+    while (it.hasNext())
+        QDir().mkpath(SystemPaths::resolve(it.next().captured(1)));
+    return succeeded();
+}
+
+class SimulatedProcess : public RunningProcess {
+public:
+    explicit SimulatedProcess(SimulatedTerminal::Answer answer)
+        : m_answer(std::move(answer))
+    {
+        if (m_answer.result.started)
+            QTimer::singleShot(m_answer.delayMs, this, [this] { finish(); });
+    }
+    bool waitForStarted(int) override { return m_answer.result.started; }
+    bool waitForFinished(int) override
+    {
+        finish();
+        return m_answer.result.started;
+    }
+    bool isRunning() const override { return m_answer.result.started && !m_done; }
+    int exitCode() const override { return m_done ? m_answer.result.exitCode : 0; }
+    QByteArray readAllStandardOutput() override { return m_done ? std::exchange(m_answer.result.standardOutput, {}) : QByteArray(); }
+    QByteArray readAllStandardError() override { return m_done ? std::exchange(m_answer.result.standardError, {}) : QByteArray(); }
+    void terminate() override { kill(); }
+    void kill() override
+    {
+        if (m_done || !m_answer.result.started)
+            return;
+        m_answer.result.exitCode = 15;
+        m_answer.result.standardOutput.clear();
+        finish();
+    }
+
+private:
+    void finish()
+    {
+        if (m_done || !m_answer.result.started)
+            return;
+        m_done = true;
+        if (!m_answer.result.standardOutput.isEmpty())
+            emit readyReadStandardOutput();
+        emit finished(m_answer.result.exitCode);
+    }
+
+    SimulatedTerminal::Answer m_answer;
+    bool m_done = false;
+};
+
+} // namespace
+
+SimulatedTerminal::SimulatedTerminal()
+{
+    initFixtureResources();
+    m_rules = QJsonDocument::fromJson(fixture(QStringLiteral("commands.json"))).array();
+    prepareSandbox();
+}
+
+void SimulatedTerminal::prepareSandbox()
+{
+    if (SystemPaths::root().isEmpty())
+        return;
+    for (const char* dir : {"/opt/norbix/tools", "/media/NORBIX-USB", "/usr/local/share/ca-certificates", "/etc"})
+        QDir().mkpath(SystemPaths::resolve(QLatin1String(dir)));
+}
+
+void SimulatedTerminal::addHandler(const Handler& handler)
+{
+    QMutexLocker locker(&g_handlersMutex);
+    handlers().push_back(handler);
+}
+
+SimulatedTerminal::Answer SimulatedTerminal::answer(const QString& program, const QStringList& arguments) const
+{
+    {
+        QMutexLocker locker(&g_handlersMutex);
+        const auto& list = handlers();
+        for (auto it = list.rbegin(); it != list.rend(); ++it) {
+            if (auto answer = (*it)(program, arguments))
+                return *answer;
+        }
+    }
+    if (auto answer = bashMkdir(program, arguments))
+        return *answer;
+    if (auto answer = fromTable(program, arguments))
+        return *answer;
+    return succeeded();
+}
+
+// Rules: {"program", "args" (exact) or "argsMatch" (regex over the arguments joined by blanks),
+// "stdout"/"stderr" (fixture file names) or "stdoutText", "exit", "delayMs"}; the first match wins.
+std::optional<SimulatedTerminal::Answer> SimulatedTerminal::fromTable(const QString& program, const QStringList& arguments) const
+{
+    const QString joined = arguments.join(QLatin1Char(' '));
+    for (const QJsonValue& value : m_rules) {
+        const QJsonObject rule = value.toObject();
+        if (rule.value(QLatin1String("program")).toString() != program)
+            continue;
+        if (rule.contains(QLatin1String("args"))) {
+            QStringList expected;
+            for (const QJsonValue& arg : rule.value(QLatin1String("args")).toArray())
+                expected << arg.toString();
+            if (expected != arguments)
+                continue;
+        }
+        if (rule.contains(QLatin1String("argsMatch"))) {
+            const QRegularExpression re(QLatin1Char('^') + rule.value(QLatin1String("argsMatch")).toString() + QLatin1Char('$'));
+            if (!re.match(joined).hasMatch())
+                continue;
+        }
+        Answer answer = succeeded();
+        if (rule.contains(QLatin1String("stdout")))
+            answer.result.standardOutput = fixture(rule.value(QLatin1String("stdout")).toString());
+        answer.result.standardOutput += rule.value(QLatin1String("stdoutText")).toString().toUtf8();
+        if (rule.contains(QLatin1String("stderr")))
+            answer.result.standardError = fixture(rule.value(QLatin1String("stderr")).toString());
+        answer.result.exitCode = rule.value(QLatin1String("exit")).toInt(0);
+        answer.delayMs = rule.value(QLatin1String("delayMs")).toInt(0);
+        return answer;
+    }
+    return std::nullopt;
+}
+
+CommandResult SimulatedTerminal::execute(const QString& program, const QStringList& arguments)
+{
+    return answer(program, arguments).result;
+}
+
+bool SimulatedTerminal::executeDetached(const QString& program, const QStringList& arguments, qint64* pid)
+{
+    if (pid)
+        *pid = 0;
+    return answer(program, arguments).result.started;
+}
+
+std::unique_ptr<RunningProcess> SimulatedTerminal::executeProcess(const QString& program, const QStringList& arguments)
+{
+    return std::make_unique<SimulatedProcess>(answer(program, arguments));
+}

@@ -1,0 +1,149 @@
+#include "Logging.h"
+#include "ShellProcess.h"
+#include "TestSandbox.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// Starts the real shell in the simulated terminal and reads what it leaves behind.
+class tst_Startup : public QObject {
+    Q_OBJECT
+
+    struct Terminal {
+        TestSandbox sandbox;
+        QTemporaryDir workingDir;
+        ShellProcess shell;
+
+        Terminal()
+        {
+            QFile::copy(QStringLiteral(NORBIX_BUILD_DIR "/quarnos.ttf"), workingDir.filePath(QStringLiteral("quarnos.ttf")));
+            shell.workingDirectory = workingDir.path();
+            shell.environment.insert(QStringLiteral("NORBIX_SIMULATE"), QStringLiteral("1"));
+            shell.environment.insert(QStringLiteral("NORBIX_ROOT"), sandbox.root());
+            shell.environment.insert(QStringLiteral("HOME"), sandbox.home());
+            shell.environment.insert(QStringLiteral("NORBIX_COMMAND_LOG"), commandLog());
+            shell.environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+            shell.environment.remove(QStringLiteral("QT_QUICK_BACKEND"));
+            shell.environment.remove(QStringLiteral("DISPLAY"));
+        }
+        QString commandLog() const { return sandbox.home() + QStringLiteral("/commands.jsonl"); }
+        QString screenshot() const { return sandbox.home() + QStringLiteral("/shot.png"); }
+        ShellRun start() { return shell.run(QStringLiteral(NORBIX_SHELL_BINARY), {"--screenshot", screenshot(), "--size", "1280x720"}); }
+        QString log() const { return QString::fromUtf8(TestSandbox::readFile(Logging::logFilePath(QDate::currentDate()))); }
+        QStringList commands() const
+        {
+            QStringList lines;
+            for (const QByteArray& line : TestSandbox::readFile(commandLog()).split('\n')) {
+                const QJsonObject object = QJsonDocument::fromJson(line).object();
+                if (object.isEmpty())
+                    continue;
+                QStringList words(object.value("program").toString());
+                for (const QJsonValue& arg : object.value("args").toArray())
+                    words << arg.toString();
+                lines << words.join(QLatin1Char(' '));
+            }
+            return lines;
+        }
+    };
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(QFile::exists(QStringLiteral(NORBIX_SHELL_BINARY)));
+    }
+
+    void startupOrderMigrationAndIdentity()
+    {
+        Terminal terminal;
+        const QString cwd = terminal.workingDir.path();
+        TestSandbox::writeFile(cwd + QStringLiteral("/connections.json"), "[{\"type\":3,\"name\":\"legacy\"}]");
+        TestSandbox::writeFile(cwd + QStringLiteral("/api.ini"), "[General]\nDebugLogs=true\n");
+        TestSandbox::writeFile(terminal.sandbox.dataFile(QStringLiteral("api.ini")), "[General]\nDebugLogs=false\n");
+        TestSandbox::writeFile(terminal.sandbox.path(QStringLiteral("/opt/norbix/tools/suspend.sh")), "#!/bin/sh\nrm -rf /\n");
+
+        const ShellRun first = terminal.start();
+        QVERIFY2(first.exitCode == 0, first.err.constData());
+
+        // Start-up steps in their order, as the log file shows them.
+        const QString log = terminal.log();
+        const QStringList steps = {"Message handler set", "Set signal hanlder", "Signal handler set", "migrateFiles()",
+                                   "migrateFiles() end", "Version: 1.2.16", "[INFO] Roboto", "[INFO] Models ready"};
+        int at = 0;
+        for (const QString& step : steps) {
+            const int found = log.indexOf(step, at);
+            QVERIFY2(found >= 0, qPrintable(QStringLiteral("missing or out of order: ") + step + QLatin1Char('\n') + log));
+            at = found + step.size();
+        }
+        QVERIFY(!log.contains(QStringLiteral("Install message handled"))); // logged before the handler exists
+
+        // Legacy files moved; the data directory's own copy wins.
+        QVERIFY(!QFile::exists(cwd + QStringLiteral("/connections.json")));
+        QVERIFY(!QFile::exists(cwd + QStringLiteral("/api.ini")));
+        QCOMPARE(TestSandbox::readFile(terminal.sandbox.dataFile(QStringLiteral("connections.json"))),
+                 QByteArray("[{\"type\":3,\"name\":\"legacy\"}]"));
+        QVERIFY(TestSandbox::readFile(terminal.sandbox.dataFile(QStringLiteral("api.ini"))).contains("DebugLogs=false"));
+        QCOMPARE(TestSandbox::readFile(terminal.sandbox.path(QStringLiteral("/opt/norbix/tools/suspend.sh"))),
+                 QByteArray("sudo systemctl suspend"));
+
+        const QStringList commands = terminal.commands();
+        QVERIFY(commands.size() >= 4);
+        QCOMPARE(commands.at(0), QStringLiteral("bash -c sudo mkdir -p /data/norbix && sudo chmod 0777 /data/norbix && sudo chown -R $USER /data/norbix"));
+        QCOMPARE(commands.at(1), QStringLiteral("chmod +x /opt/norbix/tools/suspend.sh"));
+        QVERIFY(commands.contains(QStringLiteral("uname -a")));
+        QVERIFY(commands.contains(QStringLiteral("sudo lshw -json -quiet -class network -class processor")));
+
+        QImage shot(terminal.screenshot());
+        QCOMPARE(shot.size(), QSize(1280, 720));
+
+        // A second start finds nothing to move and appends a second run to the same day's log.
+        TestSandbox::writeFile(cwd + QStringLiteral("/keyboard.ini"), "[General]\nLayouts=us\n");
+        const ShellRun second = terminal.start();
+        QVERIFY2(second.exitCode == 0, second.err.constData());
+        QVERIFY(!QFile::exists(cwd + QStringLiteral("/keyboard.ini")));
+        QVERIFY(QFile::exists(terminal.sandbox.dataFile(QStringLiteral("keyboard.ini"))));
+        QCOMPARE(terminal.log().count(QStringLiteral("[WARNING] Version: 1.2.16")), 2);
+    }
+
+    // Whatever is wrong with the terminal's files, the shell comes up.
+    void startsAnyway_data()
+    {
+        QTest::addColumn<QString>("damage");
+        QTest::newRow("corrupt language.ini") << "language";
+        QTest::newRow("translation missing") << "translation";
+        QTest::newRow("font missing") << "font";
+        QTest::newRow("data directory is a file") << "datafile";
+        QTest::newRow("log directory is a file") << "logs";
+    }
+    void startsAnyway()
+    {
+        QFETCH(QString, damage);
+        Terminal terminal;
+        if (damage == QLatin1String("language"))
+            TestSandbox::writeFile(terminal.sandbox.dataFile(QStringLiteral("language.ini")), QByteArray("\x00\xff[[[=\n\x01", 8));
+        if (damage == QLatin1String("translation"))
+            TestSandbox::writeFile(terminal.sandbox.dataFile(QStringLiteral("language.ini")), "[General]\nLanguage=xx\n");
+        if (damage == QLatin1String("font"))
+            QFile::remove(terminal.workingDir.filePath(QStringLiteral("quarnos.ttf")));
+        if (damage == QLatin1String("datafile")) {
+            QDir(terminal.sandbox.path(QStringLiteral("/data/norbix"))).removeRecursively();
+            TestSandbox::writeFile(terminal.sandbox.path(QStringLiteral("/data/norbix")), "not a directory");
+        }
+        if (damage == QLatin1String("logs"))
+            TestSandbox::writeFile(terminal.sandbox.home() + QStringLiteral("/logs"), "not a directory");
+
+        const ShellRun run = terminal.start();
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+        QCOMPARE(QImage(terminal.screenshot()).size(), QSize(1280, 720));
+        if (damage == QLatin1String("font"))
+            QVERIFY(run.out.contains("Cannot load the font quarnos.ttf"));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_Startup)
+#include "tst_startup.moc"

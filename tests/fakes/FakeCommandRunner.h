@@ -1,0 +1,36 @@
+#pragma once
+
+#include "CommandRunner.h"
+
+#include <QHash>
+#include <QList>
+
+// Records every command and answers from canned results; installs itself as the process-wide
+// runner for its lifetime.
+class FakeCommandRunner : public CommandRunner {
+public:
+    struct Call {
+        QString program;
+        QStringList arguments;
+        bool detached = false;
+        QStringList commandLine() const { return QStringList(program) + arguments; }
+    };
+
+    FakeCommandRunner();
+    ~FakeCommandRunner() override;
+
+    // The answer to "program arg1 arg2 ..." (joined by blanks); unknown commands exit 0 silently.
+    void answer(const QString& commandLine, const QByteArray& standardOutput, int exitCode = 0,
+                const QByteArray& standardError = {});
+
+    QList<Call> calls;
+
+protected:
+    CommandResult execute(const QString& program, const QStringList& arguments) override;
+    bool executeDetached(const QString& program, const QStringList& arguments, qint64* pid) override;
+    std::unique_ptr<RunningProcess> executeProcess(const QString& program, const QStringList& arguments) override;
+
+private:
+    CommandResult lookup(const QString& program, const QStringList& arguments) const;
+    QHash<QString, CommandResult> m_answers;
+};
