@@ -9,6 +9,7 @@ Item {
 
     property bool adminUnlocked: false
     property string currentSection: ""
+    property Item selectedNavItem: null
 
     signal homeRequested()
 
@@ -62,13 +63,13 @@ Item {
         pageLoader.setSource(url, props);
     }
 
+    // Brings a selected entry that is out of view to the middle of the list.
     function ensureNavVisible(item) {
-        var top = item.mapToItem(navColumn, 0, 0).y;
-        var margin = Theme.spacingL;
-        if (top - margin < navFlick.contentY)
-            navFlick.contentY = Math.max(0, top - margin);
-        else if (top + item.height + margin > navFlick.contentY + navFlick.height)
-            navFlick.contentY = Math.min(navFlick.contentHeight - navFlick.height, top + item.height + margin - navFlick.height);
+        var top = item.mapToItem(navColumn, 0, 0).y + navColumn.y;
+        if (top >= navFlick.contentY && top + item.height <= navFlick.contentY + navFlick.height)
+            return;
+        var target = top + item.height / 2 - navFlick.height / 2;
+        navFlick.contentY = Math.max(0, Math.min(navFlick.contentHeight - navFlick.height, target));
     }
 
     onCurrentSectionChanged: reloadPage()
@@ -141,6 +142,12 @@ Item {
                 onDark: true
             }
 
+            // The window may get its final size after a section was chosen.
+            onHeightChanged: {
+                if (root.selectedNavItem)
+                    Qt.callLater(root.ensureNavVisible, root.selectedNavItem);
+            }
+
             Column {
                 id: navColumn
                 x: Theme.spacingM
@@ -185,13 +192,40 @@ Item {
                                 selected: root.currentSection === modelData.id
                                 onClicked: root.showSection(modelData.id)
                                 onSelectedChanged: {
-                                    if (selected)
+                                    if (selected) {
+                                        root.selectedNavItem = this;
                                         Qt.callLater(root.ensureNavVisible, this);
+                                    }
                                 }
                             }
                         }
                     }
                 }
+            }
+        }
+
+        // Fades hint that the list continues beyond the visible part.
+        Rectangle {
+            anchors.left: navFlick.left
+            anchors.right: navFlick.right
+            anchors.top: navFlick.top
+            height: 20
+            visible: !navFlick.atYBeginning
+            gradient: Gradient {
+                GradientStop { position: 0.0; color: Theme.navy }
+                GradientStop { position: 1.0; color: Qt.rgba(Theme.navy.r, Theme.navy.g, Theme.navy.b, 0) }
+            }
+        }
+
+        Rectangle {
+            anchors.left: navFlick.left
+            anchors.right: navFlick.right
+            anchors.bottom: navFlick.bottom
+            height: 28
+            visible: !navFlick.atYEnd
+            gradient: Gradient {
+                GradientStop { position: 0.0; color: Qt.rgba(Theme.navy.r, Theme.navy.g, Theme.navy.b, 0) }
+                GradientStop { position: 1.0; color: Theme.navy }
             }
         }
 

@@ -1,20 +1,48 @@
 #include "QmlRegistration.h"
 
+#include "BrowserConnectDialogBackend.h"
+#include "CitrixConnectDialogBackend.h"
+#include "CitrixConnector.h"
+#include "ConnectionManager.h"
 #include "LanguageBackend.h"
 #include "LogManager.h"
 #include "PasswordManager.h"
+#include "PrintersBackend.h"
+#include "PuttyConnectDialogBackend.h"
+#include "RDPConnectDialogBackend.h"
+#include "RDPConnector.h"
+#include "TeamsConnector.h"
+#include "USBManager.h"
+#include "VMWareConnectDialogBackend.h"
 
 #include <QtQml>
 
 void registerQmlTypes()
 {
+    qRegisterMetaType<Connection>();
+    qmlRegisterType<VMWareConnectDialogBackend>("com.vmware.ConnectDialogBackend", 1, 0, "VMWareConnectDialogBackend");
+    qmlRegisterType<CitrixConnectDialogBackend>("com.citrix.ConnectDialogBackend", 1, 0, "CitrixConnectDialogBackend");
+    qmlRegisterType<BrowserConnectDialogBackend>("com.browser.ConnectDialogBackend", 1, 0, "BrowserConnectDialogBackend");
+    qmlRegisterType<PuttyConnectDialogBackend>("com.putty.ConnectDialogBackend", 1, 0, "PuttyConnectDialogBackend");
     qmlRegisterType<LanguageBackend>("com.LanguageBackend", 1, 0, "LanguageBackend");
+    qmlRegisterType<RDPConnectDialogBackend>("com.rdp.ConnectDialogBackend", 1, 0, "RDPConnectDialogBackend");
+    qmlRegisterType<ConnectionTableModel>("com.ConnectionTableModel", 1, 0, "ConnectionTableModel");
+    qmlRegisterType<PrintersBackend>("com.PrintersBackend", 1, 0, "PrintersBackend");
+    qmlRegisterType<TeamsConnector>("com.TeamsConnector", 1, 0, "TeamsConnector");
     qmlRegisterType<LogManager>("com.LogManager", 1, 0, "LogManager");
+    qmlRegisterType<USBManager>("com.USBManager", 1, 0, "USBManager");
     qmlRegisterType<PasswordManager>("com.PasswordManager", 1, 0, "PasswordManager");
+    qmlRegisterSingletonType<ConnectionManager>("com.ConnectionManager", 1, 0, "ConnectionManager", &ConnectionManager::qmlInstance);
+    qmlRegisterSingletonType<RDPConnector>("com.RDPConnector", 1, 0, "RDPConnector", &RDPConnector::qmlInstance);
+    qmlRegisterSingletonType<CitrixConnector>("com.CitrixConnector", 1, 0, "CitrixConnector", &CitrixConnector::qmlInstance);
 }
 
 void ContextObjects::publish(QQmlContext* context)
 {
+    qDebug() << "prepare connectionTableModel";
+    context->setContextProperty(QStringLiteral("connectionTableModel"), &connectionTableModel);
+    qDebug() << "prepare connectionsModel";
+    context->setContextProperty(QStringLiteral("connectionsModel"), &connectionsModel);
     context->setContextProperty(QStringLiteral("hardwareUtils"), &hardwareUtils);
     context->setContextProperty(QStringLiteral("cryptoUtils"), &cryptoUtils);
     qInfo() << "Models ready";

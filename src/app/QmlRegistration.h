@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ConnectionTableModel.h"
+#include "ConnectionsModel.h"
 #include "CryptoUtils.h"
 #include "HardwareUtils.h"
 
@@ -10,6 +12,8 @@ void registerQmlTypes();
 
 // The objects the screens reach as context properties. Made by `main`, they live until it returns.
 struct ContextObjects {
+    ConnectionTableModel connectionTableModel;
+    ConnectionsModel connectionsModel;
     HardwareUtils hardwareUtils;
     CryptoUtils cryptoUtils;
 

@@ -1,6 +1,7 @@
 #include "Shell.h"
 
 #include "CommandRunner.h"
+#include "ConnectionManager.h"
 #include "CrashHandler.h"
 #include "FileMigration.h"
 #include "HardwareUtils.h"
@@ -10,6 +11,7 @@
 #include "RenderingSetup.h"
 #include "ShellOptions.h"
 #include "SystemPaths.h"
+#include "TeamsConnector.h"
 #include "WindowPresenter.h"
 
 #include <QApplication>
@@ -102,6 +104,8 @@ int runShell(int argc, char* argv[])
     qDebug().noquote() << "Device" << identity << kernel;
 
     engine.load(QUrl(QStringLiteral("qrc:/vorplex/Main.qml")));
+    TeamsConnector::runThread();
+    ConnectionManager::getInstance()->performAutoconnect();
     std::unique_ptr<WindowPresenter> presenter;
     if (!engine.rootObjects().isEmpty())
         presenter = std::make_unique<WindowPresenter>(engine.rootObjects().constFirst(), options);

@@ -35,6 +35,9 @@ WindowPresenter::WindowPresenter(QObject* root, const ShellOptions& options, QOb
         m_window->resize(options.size);
         m_window->show();
     } else {
+        // Without a window manager (a bare X session) the full-screen request alone does nothing.
+        if (QScreen* screen = m_window->screen())
+            m_window->setGeometry(screen->geometry());
         m_window->showFullScreen();
     }
 }

@@ -44,8 +44,22 @@ bool CommandRunner::startDetachedCommandLine(const QString& commandLine)
 
 std::unique_ptr<RunningProcess> CommandRunner::start(const QString& program, const QStringList& arguments)
 {
+    std::unique_ptr<RunningProcess> process = createProcess();
+    process->start(program, arguments);
+    return process;
+}
+
+void RunningProcess::start(const QString& program, const QStringList& arguments)
+{
     CommandLog::record(program, arguments, false);
-    return executeProcess(program, arguments);
+    doStart(program, arguments);
+}
+
+void RunningProcess::startCommandLine(const QString& commandLine)
+{
+    QStringList parts = CommandRunner::split(commandLine);
+    const QString program = parts.isEmpty() ? QString() : parts.takeFirst();
+    start(program, parts);
 }
 
 QStringList CommandRunner::split(const QString& commandLine)

@@ -17,11 +17,16 @@ struct CommandResult {
     QByteArray standardError;
 };
 
-// A process the caller drives itself: long-lived session clients, staged helpers.
+// A process the caller drives itself: long-lived session clients, staged helpers. One object may
+// run several programs in turn (start again once the last one has finished).
 class RunningProcess : public QObject {
     Q_OBJECT
 public:
     using QObject::QObject;
+    // Logs the command (NORBIX_COMMAND_LOG) and starts it.
+    void start(const QString& program, const QStringList& arguments);
+    void startCommandLine(const QString& commandLine);
+
     virtual bool waitForStarted(int msecs) = 0;
     virtual bool waitForFinished(int msecs) = 0; // -1 waits for ever
     virtual bool isRunning() const = 0;
@@ -34,6 +39,9 @@ public:
 signals:
     void readyReadStandardOutput();
     void finished(int exitCode);
+
+protected:
+    virtual void doStart(const QString& program, const QStringList& arguments) = 0;
 };
 
 // The one way the shell starts external programs. The active runner is a QProcess runner on a real
@@ -53,7 +61,9 @@ public:
     // Starts a program that outlives the shell's interest in it.
     bool startDetached(const QString& program, const QStringList& arguments, qint64* pid = nullptr);
     bool startDetachedCommandLine(const QString& commandLine);
-    // Starts the program and hands back the running process (never null; check waitForStarted).
+    // A process object to start programs with (never null).
+    virtual std::unique_ptr<RunningProcess> createProcess() = 0;
+    // createProcess() and start() in one (check waitForStarted).
     std::unique_ptr<RunningProcess> start(const QString& program, const QStringList& arguments);
 
     // The process-wide runner, made on first use from the environment.
@@ -69,5 +79,4 @@ public:
 protected:
     virtual CommandResult execute(const QString& program, const QStringList& arguments) = 0;
     virtual bool executeDetached(const QString& program, const QStringList& arguments, qint64* pid) = 0;
-    virtual std::unique_ptr<RunningProcess> executeProcess(const QString& program, const QStringList& arguments) = 0;
 };

@@ -6,13 +6,13 @@ namespace {
 
 class QProcessHandle : public RunningProcess {
 public:
-    QProcessHandle(const QString& program, const QStringList& arguments)
+    QProcessHandle()
     {
         connect(&m_process, &QProcess::readyReadStandardOutput, this, &RunningProcess::readyReadStandardOutput);
         connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
                 [this](int code, QProcess::ExitStatus) { emit finished(code); });
-        m_process.start(program, arguments);
     }
+    void doStart(const QString& program, const QStringList& arguments) override { m_process.start(program, arguments); }
     bool waitForStarted(int msecs) override { return m_process.waitForStarted(msecs); }
     bool waitForFinished(int msecs) override { return m_process.waitForFinished(msecs); }
     bool isRunning() const override { return m_process.state() != QProcess::NotRunning; }
@@ -47,7 +47,7 @@ bool ProcessRunner::executeDetached(const QString& program, const QStringList& a
     return QProcess::startDetached(program, arguments, QString(), pid);
 }
 
-std::unique_ptr<RunningProcess> ProcessRunner::executeProcess(const QString& program, const QStringList& arguments)
+std::unique_ptr<RunningProcess> ProcessRunner::createProcess()
 {
-    return std::make_unique<QProcessHandle>(program, arguments);
+    return std::make_unique<QProcessHandle>();
 }

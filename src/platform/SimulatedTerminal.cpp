@@ -64,26 +64,31 @@ std::optional<SimulatedTerminal::Answer> bashMkdir(const QString& program, const
 
 class SimulatedProcess : public RunningProcess {
 public:
-    explicit SimulatedProcess(SimulatedTerminal::Answer answer)
-        : m_answer(std::move(answer))
+    explicit SimulatedProcess(const SimulatedTerminal& terminal) : m_terminal(terminal) {}
+
+    void doStart(const QString& program, const QStringList& arguments) override
     {
-        if (m_answer.result.started)
+        m_answer = m_terminal.answer(program, arguments);
+        m_done = false;
+        m_running = m_answer.result.started;
+        if (m_running)
             QTimer::singleShot(m_answer.delayMs, this, [this] { finish(); });
     }
     bool waitForStarted(int) override { return m_answer.result.started; }
     bool waitForFinished(int) override
     {
+        const bool wasRunning = m_running;
         finish();
-        return m_answer.result.started;
+        return wasRunning;
     }
-    bool isRunning() const override { return m_answer.result.started && !m_done; }
+    bool isRunning() const override { return m_running; }
     int exitCode() const override { return m_done ? m_answer.result.exitCode : 0; }
     QByteArray readAllStandardOutput() override { return m_done ? std::exchange(m_answer.result.standardOutput, {}) : QByteArray(); }
     QByteArray readAllStandardError() override { return m_done ? std::exchange(m_answer.result.standardError, {}) : QByteArray(); }
     void terminate() override { kill(); }
     void kill() override
     {
-        if (m_done || !m_answer.result.started)
+        if (!m_running)
             return;
         m_answer.result.exitCode = 15;
         m_answer.result.standardOutput.clear();
@@ -93,15 +98,18 @@ public:
 private:
     void finish()
     {
-        if (m_done || !m_answer.result.started)
+        if (!m_running)
             return;
+        m_running = false;
         m_done = true;
         if (!m_answer.result.standardOutput.isEmpty())
             emit readyReadStandardOutput();
         emit finished(m_answer.result.exitCode);
     }
 
+    const SimulatedTerminal& m_terminal;
     SimulatedTerminal::Answer m_answer;
+    bool m_running = false;
     bool m_done = false;
 };
 
@@ -191,7 +199,7 @@ bool SimulatedTerminal::executeDetached(const QString& program, const QStringLis
     return answer(program, arguments).result.started;
 }
 
-std::unique_ptr<RunningProcess> SimulatedTerminal::executeProcess(const QString& program, const QStringList& arguments)
+std::unique_ptr<RunningProcess> SimulatedTerminal::createProcess()
 {
-    return std::make_unique<SimulatedProcess>(answer(program, arguments));
+    return std::make_unique<SimulatedProcess>(*this);
 }

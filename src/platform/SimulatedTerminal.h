@@ -29,10 +29,11 @@ public:
     // Creates the folders a terminal image has (under NORBIX_ROOT only).
     static void prepareSandbox();
 
+    std::unique_ptr<RunningProcess> createProcess() override;
+
 protected:
     CommandResult execute(const QString& program, const QStringList& arguments) override;
     bool executeDetached(const QString& program, const QStringList& arguments, qint64* pid) override;
-    std::unique_ptr<RunningProcess> executeProcess(const QString& program, const QStringList& arguments) override;
 
 private:
     std::optional<Answer> fromTable(const QString& program, const QStringList& arguments) const;

@@ -1,31 +1,54 @@
 #include "FakeCommandRunner.h"
 
+#include <QMutexLocker>
+#include <QTimer>
+
 #include <utility>
 
 namespace {
 
+// Finishes when waited for, or when the test calls finishAll().
 class FakeProcess : public RunningProcess {
 public:
-    explicit FakeProcess(CommandResult result) : m_result(std::move(result)) {}
+    explicit FakeProcess(FakeCommandRunner& runner) : m_runner(runner) {}
+    void doStart(const QString& program, const QStringList& arguments) override
+    {
+        m_result = m_runner.record(program, arguments, false);
+        m_running = m_result.started;
+        m_runner.running << this;
+        if (m_running && m_runner.finishOnStart)
+            QTimer::singleShot(0, this, [this] { finish(); });
+    }
     bool waitForStarted(int) override { return m_result.started; }
     bool waitForFinished(int) override
     {
-        if (!m_done && m_result.started) {
-            m_done = true;
-            emit finished(m_result.exitCode);
-        }
-        return m_result.started;
+        const bool wasRunning = m_running;
+        finish();
+        return wasRunning;
     }
-    bool isRunning() const override { return m_result.started && !m_done; }
+    bool isRunning() const override { return m_running; }
     int exitCode() const override { return m_result.exitCode; }
     QByteArray readAllStandardOutput() override { return std::exchange(m_result.standardOutput, {}); }
     QByteArray readAllStandardError() override { return std::exchange(m_result.standardError, {}); }
-    void terminate() override { kill(); }
-    void kill() override { waitForFinished(0); }
+    void terminate() override { finish(); }
+    void kill() override { finish(); }
+    ~FakeProcess() override { m_runner.running.removeAll(this); }
+
+    void finish()
+    {
+        if (!m_running)
+            return;
+        m_running = false;
+        m_runner.running.removeAll(this);
+        if (!m_result.standardOutput.isEmpty())
+            emit readyReadStandardOutput();
+        emit finished(m_result.exitCode);
+    }
 
 private:
+    FakeCommandRunner& m_runner;
     CommandResult m_result;
-    bool m_done = false;
+    bool m_running = false;
 };
 
 } // namespace
@@ -63,22 +86,41 @@ CommandResult FakeCommandRunner::lookup(const QString& program, const QStringLis
     return result;
 }
 
+CommandResult FakeCommandRunner::record(const QString& program, const QStringList& arguments, bool detached)
+{
+    QMutexLocker locker(&m_mutex);
+    calls.append({program, arguments, detached});
+    return lookup(program, arguments);
+}
+
 CommandResult FakeCommandRunner::execute(const QString& program, const QStringList& arguments)
 {
-    calls.append({program, arguments, false});
-    return lookup(program, arguments);
+    return record(program, arguments, false);
 }
 
 bool FakeCommandRunner::executeDetached(const QString& program, const QStringList& arguments, qint64* pid)
 {
-    calls.append({program, arguments, true});
     if (pid)
         *pid = 4242;
-    return lookup(program, arguments).started;
+    return record(program, arguments, true).started;
 }
 
-std::unique_ptr<RunningProcess> FakeCommandRunner::executeProcess(const QString& program, const QStringList& arguments)
+std::unique_ptr<RunningProcess> FakeCommandRunner::createProcess()
 {
-    calls.append({program, arguments, false});
-    return std::make_unique<FakeProcess>(lookup(program, arguments));
+    return std::make_unique<FakeProcess>(*this);
+}
+
+void FakeCommandRunner::finishAll()
+{
+    const QList<RunningProcess*> list = running;
+    for (RunningProcess* process : list)
+        static_cast<FakeProcess*>(process)->finish();
+}
+
+QList<QStringList> FakeCommandRunner::commandLines() const
+{
+    QList<QStringList> lines;
+    for (const Call& call : calls)
+        lines << call.commandLine();
+    return lines;
 }

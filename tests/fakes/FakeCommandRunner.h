@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QMutex>
 
 // Records every command and answers from canned results; installs itself as the process-wide
 // runner for its lifetime.
@@ -23,14 +24,23 @@ public:
     void answer(const QString& commandLine, const QByteArray& standardOutput, int exitCode = 0,
                 const QByteArray& standardError = {});
 
+    // Ends every started process that is still running, emitting finished().
+    void finishAll();
+    QList<QStringList> commandLines() const;
+
     QList<Call> calls;
+    QList<RunningProcess*> running;
+    bool finishOnStart = false; // started processes end by themselves, through their thread's event loop
+
+    CommandResult record(const QString& program, const QStringList& arguments, bool detached);
+    std::unique_ptr<RunningProcess> createProcess() override;
 
 protected:
     CommandResult execute(const QString& program, const QStringList& arguments) override;
     bool executeDetached(const QString& program, const QStringList& arguments, qint64* pid) override;
-    std::unique_ptr<RunningProcess> executeProcess(const QString& program, const QStringList& arguments) override;
 
 private:
     CommandResult lookup(const QString& program, const QStringList& arguments) const;
     QHash<QString, CommandResult> m_answers;
+    QMutex m_mutex; // session workers run commands from their own threads
 };

@@ -23,8 +23,8 @@ Rectangle {
     Rectangle {
         z: -1
         anchors.fill: parent
-        anchors.topMargin: 2
-        anchors.bottomMargin: -2
+        anchors.topMargin: 1
+        anchors.bottomMargin: -1
         radius: parent.radius
         color: Theme.shadow
     }

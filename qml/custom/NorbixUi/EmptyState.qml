@@ -43,6 +43,8 @@ ColumnLayout {
 
     Text {
         Layout.fillWidth: true
+        Layout.maximumWidth: 520
+        Layout.alignment: Qt.AlignHCenter
         visible: text !== ""
         text: root.message
         horizontalAlignment: Text.AlignHCenter

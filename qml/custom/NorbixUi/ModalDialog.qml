@@ -43,12 +43,16 @@ Popup {
     }
 
     parent: Overlay.overlay
-    anchors.centerIn: parent
+    // Rounded so text stays on whole pixels.
+    x: parent ? Math.round((parent.width - width) / 2) : 0
+    y: parent ? Math.round((parent.height - height) / 2) : 0
     width: parent ? Math.min(Theme.dialogWidth, Math.max(320, parent.width - 2 * Theme.spacingXxl)) : Theme.dialogWidth
     modal: true
     focus: true
     closePolicy: Popup.CloseOnEscape
     padding: 0
+    implicitHeight: layout.implicitHeight + topPadding + bottomPadding
+    height: implicitHeight
 
     onAboutToShow: _confirmed = false
     onClosed: {
@@ -74,6 +78,7 @@ Popup {
     }
 
     contentItem: ColumnLayout {
+        id: layout
         spacing: 0
 
         ColumnLayout {

@@ -104,7 +104,7 @@ Item {
         anchors.bottom: parent.bottom
         clip: true
         contentWidth: width
-        contentHeight: contentColumn.implicitHeight + 2 * Theme.spacingXl
+        contentHeight: contentColumn.height + 2 * Theme.spacingXl
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: NxScrollBar {}
 

@@ -59,7 +59,7 @@ QtObject {
     readonly property color warningSoft: "#FDF3E3"
 
     readonly property color scrim: "#8C0B1422"
-    readonly property color shadow: "#1F0F1B2D"
+    readonly property color shadow: "#140F1B2D"
 
     // Spacing
     readonly property int spacingXs: 4

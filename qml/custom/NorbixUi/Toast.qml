@@ -28,6 +28,9 @@ Popup {
     bottomPadding: Theme.spacingM
     leftPadding: Theme.spacingL
     rightPadding: Theme.spacingS
+    implicitWidth: row.implicitWidth + leftPadding + rightPadding
+    implicitHeight: row.implicitHeight + topPadding + bottomPadding
+    height: implicitHeight
 
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.durationNormal }
@@ -43,6 +46,7 @@ Popup {
     }
 
     contentItem: RowLayout {
+        id: row
         spacing: Theme.spacingM
 
         NxIcon {

@@ -43,22 +43,41 @@ function arc(ctx, x, y, r, a1, a2) {
     ctx.stroke();
 }
 
+// Filled arrow head at (x, y) pointing along a clockwise arc at angle a.
+function arrowHead(ctx, x, y, a) {
+    var tx = -Math.sin(a), ty = Math.cos(a);
+    var nx = Math.cos(a), ny = Math.sin(a);
+    ctx.beginPath();
+    ctx.moveTo(x + tx * 3, y + ty * 3);
+    ctx.lineTo(x - tx * 1.2 + nx * 3, y - ty * 1.2 + ny * 3);
+    ctx.lineTo(x - tx * 1.2 - nx * 3, y - ty * 1.2 - ny * 3);
+    ctx.closePath();
+    ctx.fill();
+}
+
 function deg(d) {
     return d * Math.PI / 180;
 }
 
 var painters = {
     "gear": function (ctx) {
-        circle(ctx, 12, 12, 6.2);
-        circle(ctx, 12, 12, 2.4);
-        var lw = ctx.lineWidth;
-        ctx.lineWidth = lw * 1.5;
-        for (var i = 0; i < 8; ++i) {
-            var a = i * Math.PI / 4;
-            line(ctx, 12 + Math.cos(a) * 7.2, 12 + Math.sin(a) * 7.2,
-                 12 + Math.cos(a) * 9.4, 12 + Math.sin(a) * 9.4);
+        var teeth = 8, inner = 7, outer = 9.6;
+        var step = Math.PI * 2 / teeth;
+        ctx.beginPath();
+        for (var i = 0; i < teeth; ++i) {
+            var a = i * step;
+            var pts = [[inner, a - step * 0.36], [outer, a - step * 0.2], [outer, a + step * 0.2], [inner, a + step * 0.36]];
+            for (var k = 0; k < pts.length; ++k) {
+                var x = 12 + Math.cos(pts[k][1]) * pts[k][0], y = 12 + Math.sin(pts[k][1]) * pts[k][0];
+                if (i === 0 && k === 0)
+                    ctx.moveTo(x, y);
+                else
+                    ctx.lineTo(x, y);
+            }
         }
-        ctx.lineWidth = lw;
+        ctx.closePath();
+        ctx.stroke();
+        circle(ctx, 12, 12, 3);
     },
     "home": function (ctx) {
         poly(ctx, [3, 11, 12, 3.5, 21, 11]);
@@ -95,9 +114,9 @@ var painters = {
         line(ctx, 12, 15, 12, 17);
     },
     "refresh": function (ctx) {
-        arc(ctx, 12, 12, 7.5, deg(-60), deg(240));
-        var ex = 12 + Math.cos(deg(-60)) * 7.5, ey = 12 + Math.sin(deg(-60)) * 7.5;
-        poly(ctx, [ex - 4.2, ey - 1.2, ex, ey, ex + 0.6, ey - 4.2]);
+        var end = deg(250);
+        arc(ctx, 12, 12, 7.5, deg(-40), end);
+        arrowHead(ctx, 12 + Math.cos(end) * 7.5, 12 + Math.sin(end) * 7.5, end);
     },
     "eye": function (ctx) {
         ctx.beginPath();

@@ -1,0 +1,34 @@
+#include "Connection.h"
+
+#include <QJsonValue>
+
+QString Connection::get(const QString& key) const
+{
+    return m_data.value(key).toString();
+}
+
+int Connection::getInt(const QString& key) const
+{
+    return m_data.value(key).toInt();
+}
+
+bool Connection::getBool(const QString& key) const
+{
+    return m_data.value(key).toBool();
+}
+
+void Connection::add(const QString& key, const QString& value)
+{
+    m_data.insert(key, value);
+}
+
+void Connection::setType(ConnectionType type)
+{
+    m_type = type;
+    m_data.insert(QStringLiteral("type"), int(type));
+}
+
+ConnectionType Connection::getType() const
+{
+    return ConnectionType(getInt(QStringLiteral("type")));
+}

@@ -1,0 +1,47 @@
+#include "CitrixConnectDialogBackend.h"
+
+#include "ConnectionManager.h"
+
+#include <QDebug>
+
+Connection CitrixConnectDialogBackend::buildRecord(const QString& name, const QString& server, bool remember,
+                                                   const QString& username, const QString& password, const QString& desktop,
+                                                   const QString& resource, QStringList* keys)
+{
+    Connection record;
+    record.setType(Citrix);
+    record.add(QStringLiteral("name"), name);
+    record.add(QStringLiteral("address"), server);
+    record.add(QStringLiteral("username"), username);
+    record.add(QStringLiteral("password"), password);
+    record.add(QStringLiteral("desktop"), desktop);
+    record.add(QStringLiteral("resource"), resource);
+    *keys = QStringList{QStringLiteral("name"), QStringLiteral("address"), QStringLiteral("desktop"),
+                        QStringLiteral("resource"), QStringLiteral("protocol"), QStringLiteral("domain")};
+    // Credentials reach the file only when the user asked to remember them.
+    if (remember)
+        *keys << QStringLiteral("username") << QStringLiteral("password");
+    return record;
+}
+
+bool CitrixConnectDialogBackend::addConnection(const QString& name, const QString& server, bool remember,
+                                               const QString& username, const QString& password, const QString& desktop,
+                                               const QString& resource)
+{
+    QStringList keys;
+    ConnectionManager::getInstance()->saveConnection(
+        buildRecord(name, server, remember, username, password, desktop, resource, &keys), keys);
+    qInfo().noquote() << QStringLiteral("Citrix connection ") + name + QStringLiteral(" added");
+    return true;
+}
+
+bool CitrixConnectDialogBackend::updateConnection(int index, const QString& name, const QString& server, bool remember,
+                                                  const QString& username, const QString& password,
+                                                  const QString& desktop, const QString& resource)
+{
+    QStringList keys;
+    ConnectionManager::getInstance()->replaceConnection(
+        index, buildRecord(name, server, remember, username, password, desktop, resource, &keys), keys);
+    qInfo().noquote() << QStringLiteral("Citrix connection ") + name + QStringLiteral(" changed");
+    return true;
+}

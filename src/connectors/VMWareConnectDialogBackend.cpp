@@ -1,0 +1,47 @@
+#include "VMWareConnectDialogBackend.h"
+
+#include "ConnectionManager.h"
+
+#include <QDebug>
+
+Connection VMWareConnectDialogBackend::buildRecord(const QString& name, const QString& serverAddress, const QString& protocol,
+                                                   bool remember, const QString& username, const QString& password,
+                                                   const QString& domain, const QString& desktop, QStringList* keys)
+{
+    Connection record;
+    record.setType(VMWare);
+    record.add(QStringLiteral("name"), name);
+    record.add(QStringLiteral("address"), serverAddress);
+    record.add(QStringLiteral("protocol"), protocol);
+    record.add(QStringLiteral("username"), username);
+    record.add(QStringLiteral("password"), password);
+    record.add(QStringLiteral("domain"), domain);
+    record.add(QStringLiteral("desktop"), desktop);
+    *keys = QStringList{QStringLiteral("name"), QStringLiteral("address"), QStringLiteral("protocol"), QStringLiteral("domain"),
+                        QStringLiteral("desktop")};
+    if (remember)
+        *keys << QStringLiteral("username") << QStringLiteral("password");
+    return record;
+}
+
+bool VMWareConnectDialogBackend::addConnection(const QString& name, const QString& serverAddress, const QString& protocol,
+                                               bool remember, const QString& username, const QString& password,
+                                               const QString& domain, const QString& desktop)
+{
+    QStringList keys;
+    ConnectionManager::getInstance()->saveConnection(
+        buildRecord(name, serverAddress, protocol, remember, username, password, domain, desktop, &keys), keys);
+    qInfo().noquote() << QStringLiteral("VMware connection ") + name + QStringLiteral(" added");
+    return true;
+}
+
+bool VMWareConnectDialogBackend::replaceConnection(int index, const QString& name, const QString& serverAddress,
+                                                   const QString& protocol, bool remember, const QString& username,
+                                                   const QString& password, const QString& domain, const QString& desktop)
+{
+    QStringList keys;
+    ConnectionManager::getInstance()->replaceConnection(
+        index, buildRecord(name, serverAddress, protocol, remember, username, password, domain, desktop, &keys), keys);
+    qInfo().noquote() << QStringLiteral("VMware connection ") + name + QStringLiteral(" changed");
+    return true;
+}
