@@ -73,7 +73,11 @@ Item {
     }
 
     onCurrentSectionChanged: reloadPage()
-    onAdminUnlockedChanged: reloadPage()
+    onAdminUnlockedChanged: {
+        var entry = catalog.find(currentSection);
+        if (entry && entry.admin)
+            reloadPage();
+    }
 
     SectionCatalog {
         id: catalog
@@ -94,22 +98,11 @@ Item {
             anchors.top: parent.top
             height: Theme.titleBarHeight
 
-            IconButton {
-                id: backButton
-                anchors.left: parent.left
-                anchors.leftMargin: Theme.spacingM
-                anchors.verticalCenter: parent.verticalCenter
-                onDark: true
-                iconName: "back"
-                text: qsTr("Back to home")
-                onClicked: root.homeRequested()
-            }
-
             Text {
-                anchors.left: backButton.right
-                anchors.leftMargin: Theme.spacingS
-                anchors.right: parent.right
-                anchors.rightMargin: Theme.spacingL
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.spacingXl
+                anchors.right: homeButton.left
+                anchors.rightMargin: Theme.spacingS
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Settings")
                 color: Theme.navyTextStrong
@@ -117,6 +110,19 @@ Item {
                 font.pixelSize: Theme.fontTitle + 2
                 font.weight: Font.DemiBold
                 elide: Text.ElideRight
+            }
+
+            NxButton {
+                id: homeButton
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.spacingM
+                anchors.verticalCenter: parent.verticalCenter
+                implicitHeight: 36
+                kind: "onDark"
+                iconName: "home"
+                text: qsTr("Home")
+                Accessible.name: qsTr("Back to home")
+                onClicked: root.homeRequested()
             }
 
             Rectangle {

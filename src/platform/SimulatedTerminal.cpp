@@ -62,6 +62,26 @@ std::optional<SimulatedTerminal::Answer> bashMkdir(const QString& program, const
     return succeeded();
 }
 
+// The FreeRDP client: a missing password fails authorisation, a missing host is an invalid
+// address, anything else is a session that the user logs off from a few seconds later.
+std::optional<SimulatedTerminal::Answer> rdpClient(const QString& program, const QStringList& arguments)
+{
+    if (!program.endsWith(QLatin1String("/xfreerdp")))
+        return std::nullopt;
+    SimulatedTerminal::Answer answer = succeeded();
+    if (arguments.contains(QLatin1String("/v:"))) {
+        answer.result.exitCode = 140;
+        answer.delayMs = 500;
+    } else if (arguments.contains(QLatin1String("/p:"))) {
+        answer.result.exitCode = 132;
+        answer.delayMs = 1500;
+    } else {
+        answer.result.exitCode = 12;
+        answer.delayMs = 3000;
+    }
+    return answer;
+}
+
 class SimulatedProcess : public RunningProcess {
 public:
     explicit SimulatedProcess(const SimulatedTerminal& terminal) : m_terminal(terminal) {}
@@ -147,6 +167,8 @@ SimulatedTerminal::Answer SimulatedTerminal::answer(const QString& program, cons
         }
     }
     if (auto answer = bashMkdir(program, arguments))
+        return *answer;
+    if (auto answer = rdpClient(program, arguments))
         return *answer;
     if (auto answer = fromTable(program, arguments))
         return *answer;
