@@ -29,8 +29,8 @@ bool CitrixConnectDialogBackend::addConnection(const QString& name, const QStrin
                                                const QString& resource)
 {
     QStringList keys;
-    ConnectionManager::getInstance()->saveConnection(
-        buildRecord(name, server, remember, username, password, desktop, resource, &keys), keys);
+    const Connection record = buildRecord(name, server, remember, username, password, desktop, resource, &keys);
+    ConnectionManager::getInstance()->saveConnection(record, keys);
     qInfo().noquote() << QStringLiteral("Citrix connection ") + name + QStringLiteral(" added");
     return true;
 }
@@ -40,8 +40,8 @@ bool CitrixConnectDialogBackend::updateConnection(int index, const QString& name
                                                   const QString& desktop, const QString& resource)
 {
     QStringList keys;
-    ConnectionManager::getInstance()->replaceConnection(
-        index, buildRecord(name, server, remember, username, password, desktop, resource, &keys), keys);
+    const Connection record = buildRecord(name, server, remember, username, password, desktop, resource, &keys);
+    ConnectionManager::getInstance()->replaceConnection(index, record, keys);
     qInfo().noquote() << QStringLiteral("Citrix connection ") + name + QStringLiteral(" changed");
     return true;
 }

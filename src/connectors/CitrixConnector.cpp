@@ -55,8 +55,10 @@ void CitrixConnector::runStage(const QString& username, const QString& password,
         QObject::connect(m_process.get(), &RunningProcess::finished, this, [this] {
             const QString output = QString::fromLocal8Bit(m_process->readAllStandardOutput());
             const QString error = QString::fromLocal8Bit(m_process->readAllStandardError());
-            if (m_callback)
-                m_callback(output, error);
+            // A stage's handler starts the next stage, which replaces m_callback: call a copy.
+            const auto callback = m_callback;
+            if (callback)
+                callback(output, error);
         });
     }
     m_process->startCommandLine(command(username, password, stagePart));

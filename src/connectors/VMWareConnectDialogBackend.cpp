@@ -29,8 +29,8 @@ bool VMWareConnectDialogBackend::addConnection(const QString& name, const QStrin
                                                const QString& domain, const QString& desktop)
 {
     QStringList keys;
-    ConnectionManager::getInstance()->saveConnection(
-        buildRecord(name, serverAddress, protocol, remember, username, password, domain, desktop, &keys), keys);
+    const Connection record = buildRecord(name, serverAddress, protocol, remember, username, password, domain, desktop, &keys);
+    ConnectionManager::getInstance()->saveConnection(record, keys);
     qInfo().noquote() << QStringLiteral("VMware connection ") + name + QStringLiteral(" added");
     return true;
 }
@@ -40,8 +40,8 @@ bool VMWareConnectDialogBackend::replaceConnection(int index, const QString& nam
                                                    const QString& password, const QString& domain, const QString& desktop)
 {
     QStringList keys;
-    ConnectionManager::getInstance()->replaceConnection(
-        index, buildRecord(name, serverAddress, protocol, remember, username, password, domain, desktop, &keys), keys);
+    const Connection record = buildRecord(name, serverAddress, protocol, remember, username, password, domain, desktop, &keys);
+    ConnectionManager::getInstance()->replaceConnection(index, record, keys);
     qInfo().noquote() << QStringLiteral("VMware connection ") + name + QStringLiteral(" changed");
     return true;
 }
