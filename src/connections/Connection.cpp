@@ -32,3 +32,12 @@ ConnectionType Connection::getType() const
 {
     return ConnectionType(getInt(QStringLiteral("type")));
 }
+
+Connection Connection::withFields(ConnectionType type, std::initializer_list<std::pair<const char*, QString>> fields)
+{
+    Connection record;
+    record.setType(type);
+    for (const auto& field : fields)
+        record.add(QLatin1String(field.first), field.second);
+    return record;
+}

@@ -4,6 +4,9 @@
 #include <QMetaType>
 #include <QString>
 
+#include <initializer_list>
+#include <utility>
+
 enum ConnectionType { VMWare = 0, VNC = 1, Citrix = 2, RDP = 3, Browser = 4, Teams = 5, Putty = 6 };
 
 // One stored connection: a JSON object with an integer "type" and the kind's own keys.
@@ -16,6 +19,8 @@ class Connection {
 public:
     Connection() = default;
     explicit Connection(const QJsonObject& data) : m_data(data) {}
+    // A record of that kind with these text fields.
+    static Connection withFields(ConnectionType type, std::initializer_list<std::pair<const char*, QString>> fields);
 
     Q_INVOKABLE QString get(const QString& key) const;
     Q_INVOKABLE int getInt(const QString& key) const;

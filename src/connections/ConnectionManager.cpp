@@ -11,7 +11,7 @@
 
 #include <QDebug>
 #include <QJsonArray>
-#include <QQmlEngine>
+#include "QmlSingleton.h"
 #include <QSettings>
 
 ConnectionManager* ConnectionManager::m_instance = nullptr;
@@ -45,8 +45,7 @@ ConnectionManager* ConnectionManager::getInstance()
 
 QObject* ConnectionManager::qmlInstance(QQmlEngine*, QJSEngine*)
 {
-    QQmlEngine::setObjectOwnership(getInstance(), QQmlEngine::CppOwnership);
-    return getInstance();
+    return qmlSingleton<ConnectionManager>();
 }
 
 void ConnectionManager::setChangeReporter(ChangeReporter changeReporter)
@@ -269,10 +268,7 @@ bool ConnectionManager::addTeamsConnection()
         if (connection.getInt(QStringLiteral("type")) == Teams)
             return false;
     }
-    Connection teams;
-    teams.setType(Teams);
-    teams.add(QStringLiteral("name"), QStringLiteral("Microsoft Teams"));
-    saveConnection(teams, {QStringLiteral("type"), QStringLiteral("name")});
+    saveConnection(Connection::withFields(Teams, {{"name", QStringLiteral("Microsoft Teams")}}), {QStringLiteral("type"), QStringLiteral("name")});
     qInfo() << "Teams added";
     return true;
 }

@@ -11,10 +11,7 @@ QStringList BrowserConnectDialogBackend::keys()
 
 Connection BrowserConnectDialogBackend::buildRecord(const QString& name, const QString& site) const
 {
-    Connection record;
-    record.setType(Browser);
-    record.add(QStringLiteral("name"), name);
-    record.add(QStringLiteral("address"), site);
+    Connection record = Connection::withFields(Browser, {{"name", name}, {"address", site}});
     QJsonObject data = record.getData();
     for (auto it = m_flags.begin(); it != m_flags.end(); ++it)
         data.insert(it.key(), it.value());

@@ -8,14 +8,8 @@ Connection CitrixConnectDialogBackend::buildRecord(const QString& name, const QS
                                                    const QString& username, const QString& password, const QString& desktop,
                                                    const QString& resource, QStringList* keys)
 {
-    Connection record;
-    record.setType(Citrix);
-    record.add(QStringLiteral("name"), name);
-    record.add(QStringLiteral("address"), server);
-    record.add(QStringLiteral("username"), username);
-    record.add(QStringLiteral("password"), password);
-    record.add(QStringLiteral("desktop"), desktop);
-    record.add(QStringLiteral("resource"), resource);
+    const Connection record = Connection::withFields(Citrix, {{"name", name}, {"address", server}, {"username", username},
+                                                              {"password", password}, {"desktop", desktop}, {"resource", resource}});
     *keys = QStringList{QStringLiteral("name"), QStringLiteral("address"), QStringLiteral("desktop"),
                         QStringLiteral("resource"), QStringLiteral("protocol"), QStringLiteral("domain")};
     // Credentials reach the file only when the user asked to remember them.

@@ -3,7 +3,7 @@
 #include "CommandRunner.h"
 
 #include <QDebug>
-#include <QQmlEngine>
+#include "QmlSingleton.h"
 
 CitrixConnector* CitrixConnector::m_connection = nullptr;
 
@@ -16,8 +16,7 @@ CitrixConnector* CitrixConnector::getInstance()
 
 QObject* CitrixConnector::qmlInstance(QQmlEngine*, QJSEngine*)
 {
-    QQmlEngine::setObjectOwnership(getInstance(), QQmlEngine::CppOwnership);
-    return getInstance();
+    return qmlSingleton<CitrixConnector>();
 }
 
 CitrixConnector::CitrixConnector() = default;

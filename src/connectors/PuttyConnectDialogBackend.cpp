@@ -11,12 +11,7 @@ QStringList PuttyConnectDialogBackend::keys()
 
 Connection PuttyConnectDialogBackend::buildRecord(const QString& name, const QString& site, const QString& username)
 {
-    Connection record;
-    record.setType(Putty);
-    record.add(QStringLiteral("name"), name);
-    record.add(QStringLiteral("address"), site);
-    record.add(QStringLiteral("username"), username);
-    return record;
+    return Connection::withFields(Putty, {{"name", name}, {"address", site}, {"username", username}});
 }
 
 bool PuttyConnectDialogBackend::addConnection(const QString& name, const QString& site, const QString& username)

@@ -9,12 +9,8 @@ Connection RDPConnectDialogBackend::buildRecord(const QString& name, const QStri
                                                 const QString& username, const QString& password, const QString& domain,
                                                 QStringList* keys) const
 {
-    Connection record;
-    record.add(QStringLiteral("name"), name);
-    record.add(QStringLiteral("address"), serverAddress);
-    record.add(QStringLiteral("username"), username);
-    record.add(QStringLiteral("password"), password);
-    record.add(QStringLiteral("domain"), domain);
+    Connection record = Connection::withFields(RDP, {{"name", name}, {"address", serverAddress}, {"username", username},
+                                                     {"password", password}, {"domain", domain}});
     *keys = QStringList{QStringLiteral("name"), QStringLiteral("address"), QStringLiteral("domain")};
 
     QJsonObject data = record.getData();
@@ -29,7 +25,6 @@ Connection RDPConnectDialogBackend::buildRecord(const QString& name, const QStri
     record.setData(data);
     if (remember)
         *keys << QStringLiteral("username") << QStringLiteral("password");
-    record.setType(RDP);
     return record;
 }
 

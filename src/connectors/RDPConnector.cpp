@@ -5,7 +5,7 @@
 #include "USBManager.h"
 
 #include <QDebug>
-#include <QQmlEngine>
+#include "QmlSingleton.h"
 #include <QThread>
 
 RDPConnector* RDPConnector::m_connection = nullptr;
@@ -19,8 +19,7 @@ RDPConnector* RDPConnector::getInstance()
 
 QObject* RDPConnector::qmlInstance(QQmlEngine*, QJSEngine*)
 {
-    QQmlEngine::setObjectOwnership(getInstance(), QQmlEngine::CppOwnership);
-    return getInstance();
+    return qmlSingleton<RDPConnector>();
 }
 
 QString RDPConnector::createConnectionString(const Connection& connection)

@@ -8,15 +8,9 @@ Connection VMWareConnectDialogBackend::buildRecord(const QString& name, const QS
                                                    bool remember, const QString& username, const QString& password,
                                                    const QString& domain, const QString& desktop, QStringList* keys)
 {
-    Connection record;
-    record.setType(VMWare);
-    record.add(QStringLiteral("name"), name);
-    record.add(QStringLiteral("address"), serverAddress);
-    record.add(QStringLiteral("protocol"), protocol);
-    record.add(QStringLiteral("username"), username);
-    record.add(QStringLiteral("password"), password);
-    record.add(QStringLiteral("domain"), domain);
-    record.add(QStringLiteral("desktop"), desktop);
+    const Connection record = Connection::withFields(VMWare, {{"name", name}, {"address", serverAddress}, {"protocol", protocol},
+                                                              {"username", username}, {"password", password},
+                                                              {"domain", domain}, {"desktop", desktop}});
     *keys = QStringList{QStringLiteral("name"), QStringLiteral("address"), QStringLiteral("protocol"), QStringLiteral("domain"),
                         QStringLiteral("desktop")};
     if (remember)

@@ -3,7 +3,7 @@
 #include "CommandRunner.h"
 
 #include <QDebug>
-#include <QQmlEngine>
+#include "QmlSingleton.h"
 #include <QtConcurrent>
 
 LanguageBackend::LanguageBackend(QObject* parent)
@@ -26,8 +26,7 @@ LanguageBackend* LanguageBackend::getInstance()
 
 QObject* LanguageBackend::qmlInstance(QQmlEngine*, QJSEngine*)
 {
-    QQmlEngine::setObjectOwnership(getInstance(), QQmlEngine::CppOwnership);
-    return getInstance();
+    return qmlSingleton<LanguageBackend>();
 }
 
 void LanguageBackend::asyncRead()
