@@ -7,6 +7,11 @@
  *   lock                    settings with the administrator login open
  *   password                Administrator password page, unlocked
  *   logs                    Logs page, unlocked
+ *   connections             Connections settings (table and applications), unlocked
+ *   add/rdp, add/citrix, add/vmware, add/browser, add/putty
+ *                           the empty add form of that kind over the Connections settings, unlocked
+ *   rdp-login               home screen with the RDP sign-in dialog open for the first record, if any
+ *   citrix-progress         home screen with the Citrix progress popup open, showing a sample message
  *   settings/<section>      any settings section, unlocked. Sections:
  *                           connections, network-wired, network-wifi, network-8021x, hostname,
  *                           displays, power, datetime, sound, keyboard, mouse, language, wallpaper,
@@ -17,6 +22,8 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import NorbixUi 1.0
+import com.ConnectionManager 1.0
+import com.RDPConnector 1.0
 
 ApplicationWindow {
     id: window
@@ -34,11 +41,67 @@ ApplicationWindow {
             settingsView.showFirstSection();
     }
 
+    readonly property var tilesModel: typeof connectionsModel !== "undefined" ? connectionsModel : null
+    readonly property var addPages: ({
+        "add/rdp": kinds.rdp,
+        "add/citrix": kinds.citrix,
+        "add/vmware": kinds.vmware,
+        "add/browser": kinds.browser,
+        "add/putty": kinds.putty
+    })
+
+    // A tile was clicked: complete records start at once, RDP records without stored
+    // credentials ask for them, other incomplete ones open their form.
+    function activateConnection(index) {
+        if (ConnectionManager.isConnectionFull(index)) {
+            if (!ConnectionManager.connectToIndex(index))
+                showError(qsTr("Failed to connect"));
+            return;
+        }
+        var type = ConnectionManager.getConnectionType(index);
+        if (type === kinds.rdp) {
+            rdpLogin.openFor(index);
+            return;
+        }
+        var form = kinds.form(type);
+        if (form === "") {
+            toast.show(qsTr("This connection is incomplete and can't be started. An administrator can complete it in Settings \u2192 Connections."), "error");
+            return;
+        }
+        formDialog.openForm(form, index);
+    }
+
+    function showError(text) {
+        errorDialog.message = text;
+        if (!errorDialog.opened)
+            errorDialog.open();
+    }
+
     function openPage(name) {
         var page = String(name);
         showHome();
         if (page === "main")
             return;
+        if (page === "connections") {
+            currentView = "settings";
+            settingsView.openUnlocked("connections");
+            return;
+        }
+        if (addPages[page] !== undefined) {
+            currentView = "settings";
+            settingsView.openUnlocked("connections");
+            settingsView.currentPage.openForm(addPages[page], -1, true);
+            return;
+        }
+        if (page === "rdp-login") {
+            if (ConnectionManager.listConnectionNames().length > 0)
+                rdpLogin.openFor(0);
+            return;
+        }
+        if (page === "citrix-progress") {
+            citrixProgress.showProgress(qsTr("Connecting to the Citrix store\u2026"));
+            return;
+        }
         if (page === "settings") {
             showSettings("");
             return;
@@ -70,10 +133,29 @@ ApplicationWindow {
     font.family: Theme.fontFamily
     font.pixelSize: Theme.fontBody
 
+    ConnectionKinds {
+        id: kinds
+    }
+
     MainView {
         id: mainView
         anchors.fill: parent
         visible: window.currentView === "main"
+        connectionsModel: window.tilesModel
+        connectionTile: Component {
+            ConnectionTile {
+                // The index turns -1 while the model resets and the tile goes away.
+                readonly property var record: index >= 0 ? ConnectionManager.getConnection(index) : null
+
+                width: 272
+                height: 188
+                name: model.name !== undefined ? model.name : ""
+                kind: record ? record.type : -1
+                address: record ? record.address : ""
+                autoConnect: record ? record.autoConnect : false
+                onClicked: window.activateConnection(index)
+            }
+        }
         onSettingsRequested: window.showSettings("")
         onConnectionSettingsRequested: window.showSettings("connections")
     }
@@ -83,5 +165,53 @@ ApplicationWindow {
         anchors.fill: parent
         visible: window.currentView === "settings"
         onHomeRequested: window.showHome()
+    }
+
+    Connections {
+        target: ConnectionManager
+
+        function onOpenPasswordPopup(index) {
+            rdpLogin.openFor(index);
+        }
+    }
+
+    Connections {
+        target: RDPConnector
+
+        function onExitCode(code) {
+            var text = RDPConnector.messageForExitCode(code);
+            if (text !== "")
+                window.showError(text);
+        }
+    }
+
+    RDPLoginDialog {
+        id: rdpLogin
+        onFailed: window.showError(qsTr("Failed to connect"))
+    }
+
+    ConnectionFormDialog {
+        id: formDialog
+        onSaved: toast.show(added ? qsTr("\u201c%1\u201d added.").arg(name) : qsTr("Changes to \u201c%1\u201d saved.").arg(name), "success")
+    }
+
+    CitrixProgressPopup {
+        id: citrixProgress
+        mode: "launch"
+    }
+
+    ModalDialog {
+        id: errorDialog
+        title: qsTr("Connection error")
+        showCancel: false
+        okText: qsTr("Close")
+    }
+
+    Toast {
+        id: toast
+    }
+
+    TeamsPopup {
+        id: teamsPopup
     }
 }

@@ -13,10 +13,31 @@ Rectangle {
 
     property date now: new Date()
 
+    // Every record, also while the model shows only the first ones.
+    property int totalConnections: 0
+    readonly property bool expanded: tileGrid.count > partialRows
+    readonly property int partialRows: 4
+
+    function refreshTotal() {
+        totalConnections = connectionsModel && connectionsModel.totalRows ? connectionsModel.totalRows() : tileGrid.count;
+    }
+
     signal settingsRequested()
     signal connectionSettingsRequested()
 
     color: Theme.background
+
+    Connections {
+        target: root.connectionsModel
+        ignoreUnknownSignals: true
+
+        function onModelReset() {
+            root.refreshTotal();
+        }
+    }
+
+    Component.onCompleted: refreshTotal()
+    onConnectionsModelChanged: refreshTotal()
 
     Timer {
         interval: 1000
@@ -109,14 +130,52 @@ Rectangle {
         anchors.top: header.bottom
         anchors.bottom: footer.top
 
+        // Whole tiles only, centred; the section caption lines up with the first tile.
+        readonly property int columns: Math.max(1, Math.floor((width - 2 * Theme.spacingHuge + tileGrid.gap) / tileGrid.cellWidth))
+        readonly property real gridWidth: columns * tileGrid.cellWidth
+
+        RowLayout {
+            id: tilesHeader
+            x: Math.round((body.width - body.gridWidth + tileGrid.gap) / 2)
+            y: Theme.spacingXxl
+            width: body.gridWidth - tileGrid.gap
+            visible: tileGrid.count > 0
+            spacing: Theme.spacingM
+
+            Text {
+                Layout.fillWidth: true
+                Layout.alignment: Qt.AlignVCenter
+                text: qsTr("Connections")
+                color: Theme.text
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.fontTitle
+                font.weight: Font.DemiBold
+                elide: Text.ElideRight
+            }
+
+            FlatButton {
+                Layout.alignment: Qt.AlignVCenter
+                visible: root.totalConnections > root.partialRows || root.expanded
+                iconName: root.expanded ? "chevron-up" : "grid"
+                text: root.expanded ? qsTr("Show less") : qsTr("Show all (%1)").arg(root.totalConnections)
+                onClicked: root.expanded ? root.connectionsModel.loadPartial() : root.connectionsModel.loadAll()
+            }
+        }
+
         GridView {
             id: tileGrid
-            anchors.fill: parent
-            anchors.margins: Theme.spacingHuge
+
+            readonly property int gap: 24
+
+            x: Math.round((body.width - body.gridWidth) / 2) + gap / 2
+            width: body.gridWidth
+            anchors.top: tilesHeader.bottom
+            anchors.topMargin: Theme.spacingL
+            anchors.bottom: parent.bottom
             visible: count > 0
             clip: true
-            cellWidth: 296
-            cellHeight: 212
+            cellWidth: 272 + gap
+            cellHeight: 188 + gap
             model: root.connectionsModel
             delegate: root.connectionTile
             boundsBehavior: Flickable.StopAtBounds

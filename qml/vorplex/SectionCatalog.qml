@@ -8,7 +8,7 @@ QtObject {
         {
             title: qsTr("Connectivity"),
             sections: [
-                { id: "connections", title: qsTr("Connections"), icon: "plug", admin: true, page: "",
+                { id: "connections", title: qsTr("Connections"), icon: "plug", admin: true, page: "ConnectionsPage.qml",
                   description: qsTr("Remote sessions that appear as tiles on the home screen.") },
                 { id: "network-wired", title: qsTr("Wired network"), icon: "network", admin: true, page: "",
                   description: qsTr("Ethernet addressing, DNS and proxy.") },

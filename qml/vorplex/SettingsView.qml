@@ -10,6 +10,8 @@ Item {
     property bool adminUnlocked: false
     property string currentSection: ""
     property Item selectedNavItem: null
+    // The page of the current section (the locked stand-in while it is locked).
+    readonly property Item currentPage: pageLoader.item
 
     signal homeRequested()
 

@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
 
-// Text input with a label above and an error or hint line below.
+// Text input with a label above, an error or hint line below and room for buttons beside it.
 ColumnLayout {
     id: root
 
@@ -15,6 +15,7 @@ ColumnLayout {
     property alias input: input
     property string errorText: ""
     property string hintText: ""
+    default property alias trailing: trailingRow.data
 
     signal accepted()
     signal edited()
@@ -35,13 +36,24 @@ ColumnLayout {
         Layout.fillWidth: true
     }
 
-    InputBox {
-        id: input
+    RowLayout {
         Layout.fillWidth: true
-        hasError: root.errorText !== ""
-        Accessible.name: root.label
-        onAccepted: root.accepted()
-        onTextEdited: root.edited()
+        spacing: Theme.spacingS
+
+        InputBox {
+            id: input
+            Layout.fillWidth: true
+            hasError: root.errorText !== ""
+            Accessible.name: root.label
+            onAccepted: root.accepted()
+            onTextEdited: root.edited()
+        }
+
+        Row {
+            id: trailingRow
+            visible: children.length > 0
+            spacing: Theme.spacingS
+        }
     }
 
     FieldMessage {

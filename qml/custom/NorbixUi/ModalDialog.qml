@@ -12,6 +12,7 @@ Popup {
     property string cancelText: qsTr("Cancel")
     property bool okEnabled: true
     property bool showCancel: true
+    property bool showOk: true
     property bool destructive: false
     // Off when the owner validates first and closes the dialog itself.
     property bool closeOnOk: true
@@ -23,7 +24,7 @@ Popup {
     signal cancelled()
 
     function ok() {
-        if (!okEnabled)
+        if (!okEnabled || !showOk)
             return;
         okClicked();
         if (closeOnOk) {
@@ -81,14 +82,16 @@ Popup {
         id: layout
         spacing: 0
 
-        ColumnLayout {
+        // A plain Column: wrapped text inside a nested layout keeps a stale height when the
+        // text changes while the dialog is closed.
+        Column {
             Layout.fillWidth: true
             Layout.margins: Theme.spacingXl
-            Layout.bottomMargin: 0
+            Layout.bottomMargin: body.visible ? 0 : Theme.spacingXl
             spacing: Theme.spacingS
 
             Text {
-                Layout.fillWidth: true
+                width: parent.width
                 text: dialog.title
                 color: Theme.text
                 font.family: Theme.fontFamily
@@ -98,7 +101,7 @@ Popup {
             }
 
             Text {
-                Layout.fillWidth: true
+                width: parent.width
                 visible: text !== ""
                 text: dialog.message
                 color: Theme.textSecondary
@@ -112,6 +115,7 @@ Popup {
         ColumnLayout {
             id: body
             Layout.fillWidth: true
+            visible: children.length > 0
             Layout.margins: Theme.spacingXl
             Layout.topMargin: Theme.spacingL
             Layout.bottomMargin: Theme.spacingL
@@ -142,6 +146,7 @@ Popup {
             }
 
             NxButton {
+                visible: dialog.showOk
                 kind: dialog.destructive ? "danger" : "primary"
                 text: dialog.okText
                 enabled: dialog.okEnabled

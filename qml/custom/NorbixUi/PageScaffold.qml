@@ -51,14 +51,16 @@ Item {
                 }
             }
 
-            ColumnLayout {
+            // A plain Column: a wrapping subtitle inside a nested layout makes the row rearrange itself in a loop.
+            Column {
                 id: titleColumn
                 Layout.fillWidth: true
+                Layout.preferredWidth: 1
                 Layout.alignment: Qt.AlignVCenter
                 spacing: 2
 
                 Text {
-                    Layout.fillWidth: true
+                    width: parent.width
                     text: page.title
                     color: Theme.text
                     font.family: Theme.fontFamily
@@ -68,7 +70,7 @@ Item {
                 }
 
                 Text {
-                    Layout.fillWidth: true
+                    width: parent.width
                     visible: text !== ""
                     text: page.subtitle
                     color: Theme.textSecondary

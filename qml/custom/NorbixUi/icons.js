@@ -293,6 +293,78 @@ var painters = {
     },
     "folder": function (ctx) {
         poly(ctx, [3, 6, 3, 19, 21, 19, 21, 8, 11.5, 8, 9.5, 5, 3, 5], true);
+    },
+    "plus": function (ctx) {
+        line(ctx, 12, 5, 12, 19);
+        line(ctx, 5, 12, 19, 12);
+    },
+    "edit": function (ctx) {
+        poly(ctx, [4, 20, 4.8, 16, 15.5, 5.3, 18.7, 8.5, 8, 19.2], true);
+        line(ctx, 13.3, 7.5, 16.5, 10.7);
+    },
+    "trash": function (ctx) {
+        line(ctx, 4, 6.5, 20, 6.5);
+        poly(ctx, [9, 6.5, 9, 3.5, 15, 3.5, 15, 6.5]);
+        poly(ctx, [6, 6.5, 7, 20.5, 17, 20.5, 18, 6.5]);
+        line(ctx, 10, 10.5, 10, 16.5);
+        line(ctx, 14, 10.5, 14, 16.5);
+    },
+    "chevron-up": function (ctx) {
+        poly(ctx, [6, 15, 12, 9, 18, 15]);
+    },
+    "grid": function (ctx) {
+        rrect(ctx, 3.5, 3.5, 7, 7, 1.5);
+        rrect(ctx, 13.5, 3.5, 7, 7, 1.5);
+        rrect(ctx, 3.5, 13.5, 7, 7, 1.5);
+        rrect(ctx, 13.5, 13.5, 7, 7, 1.5);
+    },
+    "remote-desktop": function (ctx) {
+        rrect(ctx, 2.5, 4, 19, 12.5, 2);
+        line(ctx, 8, 20.5, 16, 20.5);
+        line(ctx, 12, 16.5, 12, 20.5);
+        poly(ctx, [9, 12.5, 15, 7.5]);
+        poly(ctx, [11, 7.5, 15, 7.5, 15, 11.5]);
+    },
+    "cloud": function (ctx) {
+        ctx.beginPath();
+        ctx.moveTo(7, 19);
+        ctx.arc(7, 14.5, 4.5, Math.PI / 2, deg(235), false);
+        ctx.arc(11.5, 9.5, 5.5, deg(200), deg(330), false);
+        ctx.arc(17, 14, 4.5, deg(-80), Math.PI / 2, false);
+        ctx.closePath();
+        ctx.stroke();
+    },
+    "layers": function (ctx) {
+        poly(ctx, [12, 3.5, 21, 8, 12, 12.5, 3, 8], true);
+        poly(ctx, [3, 12, 12, 16.5, 21, 12]);
+        poly(ctx, [3, 16, 12, 20.5, 21, 16]);
+    },
+    "terminal": function (ctx) {
+        rrect(ctx, 2.5, 4, 19, 16, 2);
+        poly(ctx, [6.5, 9, 9.5, 12, 6.5, 15]);
+        line(ctx, 12, 15.5, 17, 15.5);
+    },
+    "users": function (ctx) {
+        circle(ctx, 9, 8, 3.5);
+        ctx.beginPath();
+        ctx.moveTo(2.5, 20);
+        ctx.bezierCurveTo(2.5, 14.5, 15.5, 14.5, 15.5, 20);
+        ctx.stroke();
+        arc(ctx, 16, 8, 3, deg(-70), deg(110));
+        ctx.beginPath();
+        ctx.moveTo(17.5, 14.3);
+        ctx.bezierCurveTo(20, 14.8, 21.5, 16.8, 21.5, 20);
+        ctx.stroke();
+    },
+    "screen-share": function (ctx) {
+        rrect(ctx, 3, 4, 18, 12, 2);
+        line(ctx, 8, 20, 16, 20);
+        line(ctx, 12, 16, 12, 20);
+        circle(ctx, 12, 10, 2.5);
+    },
+    "arrow-right": function (ctx) {
+        line(ctx, 5, 12, 19, 12);
+        poly(ctx, [13, 6, 19, 12, 13, 18]);
     }
 };
 
