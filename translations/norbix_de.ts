@@ -1,0 +1,1616 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>AddBrowserConnection</name>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="26"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Der Verbindungsname darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="27"/>
+        <source>Server address can&apos;t be empty</source>
+        <translation>Die Serveradresse darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="37"/>
+        <source>Edit Browser Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="37"/>
+        <source>Add Browser Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="38"/>
+        <source>A web site or web application in the browser.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="40"/>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="40"/>
+        <source>Add connection</source>
+        <translation>Verbindung hinzufügen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="68"/>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="81"/>
+        <source>Connection name</source>
+        <translation>Verbindungsname</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="82"/>
+        <source>Shown on the home screen</source>
+        <translation>Wird auf dem Startbildschirm angezeigt</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="93"/>
+        <source>Site</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="94"/>
+        <source>e.g. https://intranet.example.com</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="104"/>
+        <source>Browser</source>
+        <translation>Browser</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="112"/>
+        <source>Kiosk mode</source>
+        <translation>Kioskmodus</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="113"/>
+        <source>Full screen, without address bar, tabs or menus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="121"/>
+        <source>Private window</source>
+        <translation>Privates Fenster</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="122"/>
+        <source>Nothing from earlier visits is kept: no history, cookies or cache.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AddCitrixConnection</name>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="29"/>
+        <source>Server address can&apos;t be empty</source>
+        <translation>Die Serveradresse darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="34"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Der Verbindungsname darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="54"/>
+        <source>Edit Citrix Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="54"/>
+        <source>Add Citrix Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="55"/>
+        <source>A published desktop or application from a Citrix store.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="57"/>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="57"/>
+        <source>Add connection</source>
+        <translation>Verbindung hinzufügen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="92"/>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="105"/>
+        <source>Connection name</source>
+        <translation>Verbindungsname</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="106"/>
+        <source>Shown on the home screen</source>
+        <translation>Wird auf dem Startbildschirm angezeigt</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="117"/>
+        <source>Server address</source>
+        <translation>Serveradresse</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="118"/>
+        <source>Store address, e.g. https://citrix.example.com</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="128"/>
+        <source>Credentials</source>
+        <translation>Anmeldedaten</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="133"/>
+        <source>Remember credentials</source>
+        <translation>Anmeldedaten speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="140"/>
+        <source>User name and password are saved with the connection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="141"/>
+        <source>User name and password are only used to browse resources and are not saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="155"/>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="165"/>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="173"/>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="187"/>
+        <source>Resource</source>
+        <translation>Ressource</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="174"/>
+        <source>The desktop or application this connection opens.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="179"/>
+        <source>Desktop</source>
+        <translation>Desktop</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="180"/>
+        <source>Optional</source>
+        <translation>Optional</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="188"/>
+        <source>Name as the store lists it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="193"/>
+        <source>Browse resources</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AddPuttyConnection</name>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="26"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Der Verbindungsname darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="35"/>
+        <source>Edit PuTTY Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="35"/>
+        <source>Add PuTTY Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="36"/>
+        <source>A terminal session to a server or network device.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="38"/>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="38"/>
+        <source>Add connection</source>
+        <translation>Verbindung hinzufügen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="64"/>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="69"/>
+        <source>Connection name</source>
+        <translation>Verbindungsname</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="70"/>
+        <source>Shown on the home screen</source>
+        <translation>Wird auf dem Startbildschirm angezeigt</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="87"/>
+        <source>Host</source>
+        <translation>Host</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="88"/>
+        <source>Host name or IP address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="89"/>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="100"/>
+        <source>Optional</source>
+        <translation>Optional</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="99"/>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+</context>
+<context>
+    <name>AddRDPConnection</name>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="38"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Der Verbindungsname darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="39"/>
+        <source>Server address can&apos;t be empty</source>
+        <translation>Die Serveradresse darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="49"/>
+        <source>Edit RDP Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="49"/>
+        <source>Add RDP Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="50"/>
+        <source>A Windows desktop or server reached over Remote Desktop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="52"/>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="52"/>
+        <source>Add connection</source>
+        <translation>Verbindung hinzufügen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="90"/>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="103"/>
+        <source>Connection name</source>
+        <translation>Verbindungsname</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="104"/>
+        <source>Shown on the home screen</source>
+        <translation>Wird auf dem Startbildschirm angezeigt</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="115"/>
+        <source>Server address</source>
+        <translation>Serveradresse</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="116"/>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="247"/>
+        <source>Host name or IP address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="126"/>
+        <source>Credentials</source>
+        <translation>Anmeldedaten</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="131"/>
+        <source>Remember credentials</source>
+        <translation>Anmeldedaten speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="138"/>
+        <source>The session starts without asking for a password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="139"/>
+        <source>User name and password are asked for each time the session starts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="153"/>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="163"/>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="172"/>
+        <source>Domain</source>
+        <translation>Domäne</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="173"/>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="268"/>
+        <source>Optional</source>
+        <translation>Optional</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="181"/>
+        <source>Session</source>
+        <translation>Sitzung</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="189"/>
+        <source>Full screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="190"/>
+        <source>The session fills the whole screen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="198"/>
+        <source>Multi-monitor</source>
+        <translation>Mehrere Bildschirme</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="199"/>
+        <source>The session spans every connected display.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="207"/>
+        <source>Smart card</source>
+        <translation>Smartcard</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="208"/>
+        <source>Sign in to the session with a smart card in this terminal&apos;s reader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="216"/>
+        <source>USB redirection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="217"/>
+        <source>USB devices plugged into this terminal appear in the session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="225"/>
+        <source>Printer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="226"/>
+        <source>Printers set up on this terminal can be used from the session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="232"/>
+        <source>Gateway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="233"/>
+        <source>Only needed when the server is reached through a Remote Desktop Gateway.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="246"/>
+        <source>Gateway host</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="257"/>
+        <source>Gateway user name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="267"/>
+        <source>Gateway domain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="277"/>
+        <source>Gateway password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="285"/>
+        <source>Performance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="286"/>
+        <source>Best quality suits fast networks; Fastest lowers colour depth and effects for slow links.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="292"/>
+        <source>Best quality</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="292"/>
+        <source>Fastest</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AdminLoginDialog</name>
+    <message>
+        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="11"/>
+        <source>Administrator access</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="12"/>
+        <source>Advanced settings are protected. Enter the administrator password to unlock them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="13"/>
+        <source>Unlock</source>
+        <translation>Entsperren</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="24"/>
+        <source>Wrong password. Please try again.</source>
+        <translation>Falsches Passwort. Bitte erneut versuchen.</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="37"/>
+        <source>Administrator password</source>
+        <translation>Administratorpasswort</translation>
+    </message>
+</context>
+<context>
+    <name>AdminPasswordPage</name>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="16"/>
+        <source>The current password is not correct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="20"/>
+        <source>Enter a new password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="23"/>
+        <source>The passwords do not match.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="33"/>
+        <source>Administrator password changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="42"/>
+        <source>Change administrator password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="43"/>
+        <source>Anyone who knows this password can change the advanced settings of this terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="49"/>
+        <source>Current password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="58"/>
+        <source>New password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="67"/>
+        <source>Repeat new password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="75"/>
+        <source>Change password</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CitrixProgressPopup</name>
+    <message>
+        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="55"/>
+        <source>Citrix resources</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="55"/>
+        <source>Citrix</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="60"/>
+        <source>Use resource</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="62"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="62"/>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="108"/>
+        <source>The store offers no resources for this account.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="171"/>
+        <source>Contacting the Citrix store…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="172"/>
+        <source>Starting the Citrix session…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionKinds</name>
+    <message>
+        <location filename="../qml/vorplex/ConnectionKinds.qml" line="15"/>
+        <source>VMware Horizon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionKinds.qml" line="16"/>
+        <source>VNC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionKinds.qml" line="17"/>
+        <source>Citrix</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionKinds.qml" line="18"/>
+        <source>Remote Desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionKinds.qml" line="19"/>
+        <source>Browser</source>
+        <translation>Browser</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionKinds.qml" line="20"/>
+        <source>Microsoft Teams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionKinds.qml" line="21"/>
+        <source>PuTTY</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionKinds.qml" line="24"/>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTableModel</name>
+    <message>
+        <location filename="../src/connections/ConnectionTableModel.cpp" line="22"/>
+        <source>Browser</source>
+        <translation>Browser</translation>
+    </message>
+    <message>
+        <location filename="../src/connections/ConnectionTableModel.cpp" line="91"/>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <location filename="../src/connections/ConnectionTableModel.cpp" line="92"/>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <location filename="../src/connections/ConnectionTableModel.cpp" line="93"/>
+        <source>Server Address</source>
+        <translation>Serveradresse</translation>
+    </message>
+    <message>
+        <location filename="../src/connections/ConnectionTableModel.cpp" line="94"/>
+        <source>Auto Connect</source>
+        <translation>Autostart</translation>
+    </message>
+    <message>
+        <location filename="../src/connections/ConnectionTableModel.cpp" line="95"/>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTile</name>
+    <message>
+        <location filename="../qml/vorplex/ConnectionTile.qml" line="70"/>
+        <source>Auto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionTile.qml" line="101"/>
+        <source>%1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionsPage</name>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="12"/>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="24"/>
+        <source>RDP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="25"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="176"/>
+        <source>Citrix</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="26"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="183"/>
+        <source>VMware Horizon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="27"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="190"/>
+        <source>Browser</source>
+        <translation>Browser</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="28"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="197"/>
+        <source>PuTTY</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="29"/>
+        <source>Microsoft Teams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="30"/>
+        <source>VNC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="69"/>
+        <source>“%1” added.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="69"/>
+        <source>Changes to “%1” saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="85"/>
+        <source>Microsoft Teams added.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="87"/>
+        <source>Microsoft Teams is already in the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="153"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="460"/>
+        <source>Add connection</source>
+        <translation>Verbindung hinzufügen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="169"/>
+        <source>Remote Desktop (RDP)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="214"/>
+        <source>Add Microsoft Teams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="413"/>
+        <source>Start automatically</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="432"/>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="432"/>
+        <source>Nothing to edit for this kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="440"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="511"/>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="455"/>
+        <source>No connections yet</source>
+        <translation>Noch keine Verbindungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="456"/>
+        <source>Add a remote desktop, a web site or an application. Each connection appears as a tile on the home screen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="472"/>
+        <source>Applications</source>
+        <translation>Anwendungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="473"/>
+        <source>Kinds of connection that can be added on this terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="509"/>
+        <source>Remove connection?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="510"/>
+        <source>“%1” will be removed from this terminal, and its tile from the home screen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="515"/>
+        <source>“%1” removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FormPage</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/FormPage.qml" line="15"/>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/custom/NorbixUi/FormPage.qml" line="16"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <location filename="../qml/custom/NorbixUi/FormPage.qml" line="75"/>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/custom/NorbixUi/FormPage.qml" line="126"/>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LockedPage</name>
+    <message>
+        <location filename="../qml/vorplex/LockedPage.qml" line="19"/>
+        <source>Administrator access required</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LockedPage.qml" line="20"/>
+        <source>This section changes how the terminal works for everyone who uses it. Unlock the advanced settings with the administrator password to continue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LockedPage.qml" line="24"/>
+        <source>Unlock</source>
+        <translation>Entsperren</translation>
+    </message>
+</context>
+<context>
+    <name>LogsPage</name>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="27"/>
+        <source>Export finished.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="48"/>
+        <source>Debug logging</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="49"/>
+        <source>Records detailed messages for troubleshooting. Logs grow faster while it is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="59"/>
+        <source>Export logs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="60"/>
+        <source>Save the logs to a USB drive, for example to pass them on to support.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="65"/>
+        <source>Choose folder to export logs</source>
+        <translation>Ordner für den Protokollexport wählen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="68"/>
+        <source>No removable drive found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="69"/>
+        <source>Insert a USB drive, then refresh the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="73"/>
+        <source>Refresh drive list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="81"/>
+        <source>Export all logs</source>
+        <translation>Alle Protokolle exportieren</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="86"/>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="94"/>
+        <source>Current session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="95"/>
+        <source>Messages logged since the shell was started.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="99"/>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="138"/>
+        <source>No messages logged yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="58"/>
+        <location filename="../qml/vorplex/Main.qml" line="190"/>
+        <source>Failed to connect</source>
+        <translation>Verbindung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="68"/>
+        <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="102"/>
+        <source>Connecting to the Citrix store…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="195"/>
+        <source>“%1” added.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="195"/>
+        <source>Changes to “%1” saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="205"/>
+        <source>Connection error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="207"/>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MainView</name>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="121"/>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="148"/>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="160"/>
+        <source>Show less</source>
+        <translation>Weniger anzeigen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="160"/>
+        <source>Show all (%1)</source>
+        <translation>Alle anzeigen (%1)</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="191"/>
+        <source>No connections yet</source>
+        <translation>Noch keine Verbindungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="192"/>
+        <source>Remote desktops and applications will appear here as tiles. An administrator adds them in Settings → Connections.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="196"/>
+        <source>Open connection settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="222"/>
+        <source>Norbix %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="232"/>
+        <source>Thin client terminal</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModalDialog</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/ModalDialog.qml" line="11"/>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/custom/NorbixUi/ModalDialog.qml" line="12"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>NavItem</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/NavItem.qml" line="21"/>
+        <source>%1 (locked)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PasswordField</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/PasswordField.qml" line="58"/>
+        <source>Hide password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/custom/NorbixUi/PasswordField.qml" line="58"/>
+        <source>Show password</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PlaceholderCard</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/PlaceholderCard.qml" line="8"/>
+        <source>Not available on this terminal yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/custom/NorbixUi/PlaceholderCard.qml" line="9"/>
+        <source>These settings arrive with a later software update. Until then the terminal keeps its current configuration, and nothing here needs your attention.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RDPConnector</name>
+    <message>
+        <location filename="../src/connectors/RDPConnector.cpp" line="91"/>
+        <source>Failed to authorize user</source>
+        <translation>Benutzer konnte nicht angemeldet werden</translation>
+    </message>
+    <message>
+        <location filename="../src/connectors/RDPConnector.cpp" line="93"/>
+        <source>Invalid IP</source>
+        <translation>Ungültige IP-Adresse</translation>
+    </message>
+    <message>
+        <location filename="../src/connectors/RDPConnector.cpp" line="95"/>
+        <source>Failed to connect</source>
+        <translation>Verbindung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <location filename="../src/connectors/RDPConnector.cpp" line="97"/>
+        <source>Host not found</source>
+        <translation>Host nicht gefunden</translation>
+    </message>
+    <message>
+        <location filename="../src/connectors/RDPConnector.cpp" line="99"/>
+        <source>Error: </source>
+        <translation>Fehler: </translation>
+    </message>
+</context>
+<context>
+    <name>RDPLoginDialog</name>
+    <message>
+        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="32"/>
+        <source>Sign in</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="35"/>
+        <source>Enter your user name and password to start the session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="37"/>
+        <source>Enter your user name and password for “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="38"/>
+        <source>Enter your user name and password for “%1” on %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="40"/>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="52"/>
+        <source>User name can&apos;t be empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="72"/>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="81"/>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+</context>
+<context>
+    <name>SectionCatalog</name>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="9"/>
+        <source>Connectivity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="11"/>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="12"/>
+        <source>Remote sessions that appear as tiles on the home screen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="13"/>
+        <source>Wired network</source>
+        <translation>Kabelgebundenes Netzwerk</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="14"/>
+        <source>Ethernet addressing, DNS and proxy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="15"/>
+        <source>Wi-Fi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="16"/>
+        <source>Wireless networks and saved credentials.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="17"/>
+        <source>802.1X authentication</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="18"/>
+        <source>Port-based network access control for wired and wireless networks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="19"/>
+        <source>Host name</source>
+        <translation>Hostname</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="20"/>
+        <source>The name this terminal uses on the network.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="24"/>
+        <source>Preferences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="26"/>
+        <source>Displays</source>
+        <translation>Bildschirme</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="27"/>
+        <source>Resolution, arrangement and orientation of connected monitors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="28"/>
+        <source>Power saving</source>
+        <translation>Energiesparen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="29"/>
+        <source>Screen blanking and standby timing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="30"/>
+        <source>Date &amp; time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="31"/>
+        <source>Time zone, clock format and time servers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="32"/>
+        <source>Sound</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="33"/>
+        <source>Output and input devices and volume.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="34"/>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="35"/>
+        <source>Keyboard layout and key repeat.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="36"/>
+        <source>Mouse</source>
+        <translation>Maus</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="37"/>
+        <source>Pointer speed, button order and double-click timing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="38"/>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="39"/>
+        <source>Display language and regional formats.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="40"/>
+        <source>Wallpaper</source>
+        <translation>Hintergrundbild</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="41"/>
+        <source>Background image of the home screen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="45"/>
+        <source>Devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="47"/>
+        <source>Printers</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="48"/>
+        <source>Local and network printers available to sessions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="49"/>
+        <source>USB storage</source>
+        <translation>USB-Speicher</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="50"/>
+        <source>Access to USB drives on this terminal and in sessions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="54"/>
+        <source>Security</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="56"/>
+        <source>Certificates</source>
+        <translation>Zertifikate</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="57"/>
+        <source>Trusted certificate authorities and client certificates.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="58"/>
+        <source>Administrator password</source>
+        <translation>Administratorpasswort</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="60"/>
+        <source>The password that protects the advanced settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="64"/>
+        <source>Management</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="66"/>
+        <source>Management server</source>
+        <translation>Verwaltungsserver</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="67"/>
+        <source>Central management of this terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="68"/>
+        <source>Updates</source>
+        <translation>Aktualisierungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="69"/>
+        <source>Software updates for this terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="70"/>
+        <source>Export settings</source>
+        <translation>Einstellungen exportieren</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="71"/>
+        <source>Save this terminal&apos;s configuration to a USB drive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="72"/>
+        <source>Import settings</source>
+        <translation>Einstellungen importieren</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="73"/>
+        <source>Load a configuration from a USB drive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="77"/>
+        <source>Support</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="79"/>
+        <source>Logs</source>
+        <translation>Protokolle</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="80"/>
+        <source>Diagnostic messages of this session and export for support.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="81"/>
+        <source>System information</source>
+        <translation>Systeminformationen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="82"/>
+        <source>Hardware, software version and network details.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <location filename="../qml/vorplex/SettingsView.qml" line="109"/>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsView.qml" line="125"/>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsView.qml" line="126"/>
+        <source>Back to home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsView.qml" line="279"/>
+        <source>Advanced settings</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsView.qml" line="289"/>
+        <source>Unlocked</source>
+        <translation>Entsperrt</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsView.qml" line="289"/>
+        <source>Locked</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsView.qml" line="301"/>
+        <source>Lock</source>
+        <translation>Sperren</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsView.qml" line="301"/>
+        <source>Unlock</source>
+        <translation>Entsperren</translation>
+    </message>
+</context>
+<context>
+    <name>TeamsPopup</name>
+    <message>
+        <location filename="../qml/vorplex/TeamsPopup.qml" line="33"/>
+        <source>Microsoft Teams</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Toast</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/Toast.qml" line="76"/>
+        <source>Dismiss</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>VMWareConnectDialog</name>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="33"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Der Verbindungsname darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="34"/>
+        <source>Server address can&apos;t be empty</source>
+        <translation>Die Serveradresse darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="44"/>
+        <source>Edit VMWare Horizon Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="44"/>
+        <source>Add VMWare Horizon Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="45"/>
+        <source>A virtual desktop from a VMware Horizon connection server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="47"/>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="47"/>
+        <source>Add connection</source>
+        <translation>Verbindung hinzufügen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="77"/>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="90"/>
+        <source>Connection name</source>
+        <translation>Verbindungsname</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="91"/>
+        <source>Shown on the home screen</source>
+        <translation>Wird auf dem Startbildschirm angezeigt</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="102"/>
+        <source>Server address</source>
+        <translation>Serveradresse</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="103"/>
+        <source>Connection server, e.g. horizon.example.com</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="114"/>
+        <source>Protocol</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="116"/>
+        <source>Display protocol of the desktop session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="123"/>
+        <source>Credentials</source>
+        <translation>Anmeldedaten</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="128"/>
+        <source>Remember credentials</source>
+        <translation>Anmeldedaten speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="135"/>
+        <source>User name and password are saved with the connection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="136"/>
+        <source>User name and password are not saved with the connection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="150"/>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="160"/>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="169"/>
+        <source>Domain</source>
+        <translation>Domäne</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="170"/>
+        <source>Optional</source>
+        <translation>Optional</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="179"/>
+        <source>Desktop</source>
+        <translation>Desktop</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="180"/>
+        <source>Optional: the desktop pool to open</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
