@@ -41,7 +41,8 @@ private slots:
         QTest::addColumn<QString>("page");
         QTest::addColumn<QSize>("size");
         for (const QSize& size : {QSize(1280, 720), QSize(1920, 1080)}) {
-            for (const char* page : {"main", "settings", "logs", "password", "lock"})
+            for (const char* page : {"main", "settings", "logs", "password", "lock", "connections", "add/rdp", "add/citrix",
+                                     "add/vmware", "rdp-login", "citrix-progress"})
                 QTest::addRow("%s %dx%d", page, size.width(), size.height()) << QString::fromLatin1(page) << size;
         }
     }
@@ -52,6 +53,8 @@ private slots:
         if (QStandardPaths::findExecutable(QStringLiteral("xvfb-run")).isEmpty())
             QSKIP("xvfb-run is not installed");
         TestSandbox sandbox;
+        // The screens with a catalogue to show.
+        QFile::copy(QStringLiteral(NORBIX_TEST_DATA "/simulation/sample-connections.json"), sandbox.dataFile("connections.json"));
         ShellProcess shell = shellIn(sandbox, QStringLiteral(NORBIX_BUILD_DIR));
         shell.environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
         const QString file = sandbox.home() + QStringLiteral("/shot.png");
@@ -60,6 +63,8 @@ private slots:
         const ShellRun run = shell.run(QStringLiteral("xvfb-run"),
                                        {"-a", "-s", screen, QStringLiteral(NORBIX_SHELL_BINARY), "--screenshot", file, "--page", page});
         QVERIFY2(run.exitCode == 0, run.err.constData());
+        // A screen that warns while it is shown (bindings, layouts) is not finished.
+        QVERIFY2(!run.out.contains("qrc:/") && !run.err.contains("qrc:/"), (run.out + run.err).constData());
         verifyRendered(file, size);
     }
 
