@@ -23,8 +23,9 @@ int main(int argc, char* argv[])
     if (!std::strcmp(mode, "levels")) {
         logEveryLevel();
     } else if (!std::strcmp(mode, "segv")) {
-        volatile int* volatile nowhere = nullptr;
-        *nowhere = 1;
+        // A write to the unmapped first page (not to null, which the sanitizer build reports first).
+        volatile int* volatile unmapped = reinterpret_cast<int*>(64);
+        *unmapped = 1;
     } else if (!std::strcmp(mode, "fatal")) {
         qFatal("fatal line");
     }
