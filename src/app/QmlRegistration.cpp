@@ -14,6 +14,8 @@
 #include "TeamsConnector.h"
 #include "USBManager.h"
 #include "VMWareConnectDialogBackend.h"
+#include "VNCConnectDialogBackend.h"
+#include "VNCConnector.h"
 
 #include <QtQml>
 
@@ -25,6 +27,7 @@ void registerQmlTypes()
     qmlRegisterType<BrowserConnectDialogBackend>("com.browser.ConnectDialogBackend", 1, 0, "BrowserConnectDialogBackend");
     qmlRegisterType<PuttyConnectDialogBackend>("com.putty.ConnectDialogBackend", 1, 0, "PuttyConnectDialogBackend");
     qmlRegisterType<LanguageBackend>("com.LanguageBackend", 1, 0, "LanguageBackend");
+    qmlRegisterType<VNCConnectDialogBackend>("com.vnc.ConnectDialogBackend", 1, 0, "VNCConnectDialogBackend");
     qmlRegisterType<RDPConnectDialogBackend>("com.rdp.ConnectDialogBackend", 1, 0, "RDPConnectDialogBackend");
     qmlRegisterType<ConnectionTableModel>("com.ConnectionTableModel", 1, 0, "ConnectionTableModel");
     qmlRegisterType<PrintersBackend>("com.PrintersBackend", 1, 0, "PrintersBackend");
@@ -32,6 +35,7 @@ void registerQmlTypes()
     qmlRegisterType<LogManager>("com.LogManager", 1, 0, "LogManager");
     qmlRegisterType<USBManager>("com.USBManager", 1, 0, "USBManager");
     qmlRegisterType<PasswordManager>("com.PasswordManager", 1, 0, "PasswordManager");
+    qmlRegisterSingletonType<VNCConnector>("com.VNCConnector", 1, 0, "VNCConnector", &VNCConnector::qmlInstance);
     qmlRegisterSingletonType<ConnectionManager>("com.ConnectionManager", 1, 0, "ConnectionManager", &ConnectionManager::qmlInstance);
     qmlRegisterSingletonType<RDPConnector>("com.RDPConnector", 1, 0, "RDPConnector", &RDPConnector::qmlInstance);
     qmlRegisterSingletonType<CitrixConnector>("com.CitrixConnector", 1, 0, "CitrixConnector", &CitrixConnector::qmlInstance);

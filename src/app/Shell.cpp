@@ -8,6 +8,7 @@
 #include "LanguageBackend.h"
 #include "Logging.h"
 #include "QmlRegistration.h"
+#include "RawImageProvider.h"
 #include "RenderingSetup.h"
 #include "ShellOptions.h"
 #include "SystemPaths.h"
@@ -95,6 +96,7 @@ int runShell(int argc, char* argv[])
     LanguageBackend::getInstance()->asyncRead();
 
     registerQmlTypes();
+    engine.addImageProvider(QStringLiteral("received"), new RawImageProvider);
 
     ContextObjects contextObjects;
     contextObjects.publish(engine.rootContext());

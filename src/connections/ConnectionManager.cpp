@@ -8,6 +8,7 @@
 #include "SystemPaths.h"
 #include "TeamsConnector.h"
 #include "VMWareConnector.h"
+#include "VNCConnector.h"
 
 #include <QDebug>
 #include <QJsonArray>
@@ -198,8 +199,7 @@ bool ConnectionManager::launch(const Connection& connection)
         VMWareConnector::connect(connection);
         return true;
     case VNC:
-        qWarning() << "This build has no VNC viewer";
-        return false;
+        return VNCConnector::getInstance()->initConnection(connection);
     case Citrix:
         return CitrixConnector::getInstance()->connect(connection);
     case RDP:

@@ -9,6 +9,7 @@
 #include <QMutex>
 #include <QMutexLocker>
 #include <QRegularExpression>
+#include <QTcpSocket>
 #include <QTimer>
 
 #include <utility>
@@ -79,6 +80,24 @@ std::optional<SimulatedTerminal::Answer> rdpClient(const QString& program, const
         answer.result.exitCode = 12;
         answer.delayMs = 3000;
     }
+    return answer;
+}
+
+// The VNC viewer's port scan: a real TCP connection attempt, so a real VNC server can be used
+// from the simulated terminal.
+std::optional<SimulatedTerminal::Answer> portScan(const QString& program, const QStringList& arguments)
+{
+    const int portFlag = arguments.indexOf(QLatin1String("-p"));
+    if (program != QLatin1String("nmap") || portFlag < 1 || portFlag + 1 >= arguments.size())
+        return std::nullopt;
+    const QString host = arguments.at(portFlag - 1);
+    bool numeric = false;
+    const quint16 port = arguments.at(portFlag + 1).toUShort(&numeric);
+    SimulatedTerminal::Answer answer = succeeded();
+    QTcpSocket socket;
+    socket.connectToHost(host, port);
+    if (numeric && socket.waitForConnected(3000))
+        answer.result.standardOutput = QStringLiteral("%1/tcp open  vnc\n").arg(port).toUtf8();
     return answer;
 }
 
@@ -169,6 +188,8 @@ SimulatedTerminal::Answer SimulatedTerminal::answer(const QString& program, cons
     if (auto answer = bashMkdir(program, arguments))
         return *answer;
     if (auto answer = rdpClient(program, arguments))
+        return *answer;
+    if (auto answer = portScan(program, arguments))
         return *answer;
     if (auto answer = fromTable(program, arguments))
         return *answer;

@@ -53,7 +53,8 @@ private slots:
                                                "--nonInteractive", "--usbAutoConnectOnInsert=TRUE",
                                                "--usbAutoConnectAtStartUp=TRUE", "--enableMMR"}
                                 << true;
-        QTest::newRow("VNC without a viewer") << QJsonObject{{"type", 1}, {"address", "h"}} << false << QStringList() << false;
+        QTest::newRow("VNC, server not answering") << QJsonObject{{"type", 1}, {"address", "h"}} << false
+                                                   << QStringList{"nmap", "-sV", "-sC", "h", "-p", "5900", "|", "grep", "open"} << false;
         QTest::newRow("Citrix") << QJsonObject{{"type", 2}, {"address", "https://store.example"}} << true
                                 << QStringList{"/opt/Citrix/ICAClient/util/storebrowse", "-a", "https://store.example"} << false;
         QTest::newRow("RDP") << QJsonObject{{"type", 3}, {"address", "rdp.example"}, {"username", "u"}, {"password", "p"}} << true

@@ -1,0 +1,203 @@
+#include "VNCConnector.h"
+
+#include "CommandRunner.h"
+#include "QmlSingleton.h"
+#include "ViewDialog.h"
+#include "VncInput.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QThread>
+
+#include <rfb/rfbclient.h>
+
+#include <cstring>
+
+VNCConnector* VNCConnector::m_instance = nullptr;
+QByteArray VNCConnector::m_password;
+QImage VNCConnector::m_image;
+
+VNCConnector* VNCConnector::getInstance()
+{
+    if (!m_instance)
+        m_instance = new VNCConnector;
+    return m_instance;
+}
+
+QObject* VNCConnector::qmlInstance(QQmlEngine*, QJSEngine*)
+{
+    return qmlSingleton<VNCConnector>();
+}
+
+bool VNCConnector::resolveHost(const QString& address)
+{
+    const VncInput::HostPort target = VncInput::splitAddress(address);
+    if (target.host.isEmpty())
+        return false;
+    const QString command = VncInput::reachabilityCommand(target);
+    qInfo().noquote() << command;
+    const CommandResult result = CommandRunner::instance().runCommandLine(command);
+    return result.standardOutput.contains("open");
+}
+
+namespace {
+void ignoreCutText(rfbClient*, const char*, int) {}
+void ignoreLedState(rfbClient*, int, int) {}
+void ignoreTextChat(rfbClient*, int, char*) {}
+} // namespace
+
+char* VNCConnector::getPassword(rfbClient*)
+{
+    // The library frees what it gets.
+    return strdup(m_password.constData());
+}
+
+rfbBool VNCConnector::mallocFrameBuffer(rfbClient* client)
+{
+    qInfo() << "Resize to" << client->width << client->height;
+    m_image = QImage(client->width, client->height, QImage::Format_RGB32);
+    client->frameBuffer = m_image.bits();
+    getInstance()->m_damage = m_image.rect();
+    return TRUE;
+}
+
+void VNCConnector::gotFrameBufferUpdate(rfbClient*, int x, int y, int w, int h)
+{
+    // Rectangles of one update are gathered and shown together when the update is complete.
+    getInstance()->m_damage |= QRect(x, y, w, h);
+}
+
+void VNCConnector::finishedFrameBufferUpdate(rfbClient* client)
+{
+    VNCConnector* self = getInstance();
+    if (self->m_damage.isEmpty())
+        return;
+    const QImage frame(client->frameBuffer, client->width, client->height, QImage::Format_RGB32);
+    if (frame.isNull())
+        qWarning() << "image not loaded" << frame.depth();
+    self->emitImageReady(frame);
+    self->m_damage = QRect();
+}
+
+void VNCConnector::emitImageReady(const QImage& image)
+{
+    qDebug() << "new image available" << image.size();
+    emit imageReady(image.copy());
+}
+
+bool VNCConnector::initConnection(const Connection& connection)
+{
+    m_terminate = false;
+    m_serverGone = false;
+    if (!resolveHost(connection.getAddress()))
+        return false;
+    m_password = connection.get(QStringLiteral("password")).toLocal8Bit();
+
+    cl = rfbGetClient(8, 3, 4);
+    const int depth = QImage(1, 1, QImage::Format_RGB32).depth();
+    if (depth == 8) {
+        cl->format.depth = 8;
+        cl->format.bitsPerPixel = 8;
+        cl->format.redShift = 0;
+        cl->format.greenShift = 3;
+        cl->format.blueShift = 6;
+        cl->format.redMax = 7;
+        cl->format.greenMax = 7;
+        cl->format.blueMax = 3;
+    } else if (depth == 16) {
+        cl->format.depth = 16;
+        cl->format.bitsPerPixel = 16;
+        cl->format.redShift = 11;
+        cl->format.greenShift = 5;
+        cl->format.blueShift = 0;
+        cl->format.redMax = 31;
+        cl->format.greenMax = 63;
+        cl->format.blueMax = 31;
+    } else {
+        cl->format.depth = depth;
+        cl->format.bitsPerPixel = 32;
+        cl->format.redShift = 16;
+        cl->format.greenShift = 8;
+        cl->format.blueShift = 0;
+        cl->format.redMax = 255;
+        cl->format.greenMax = 255;
+        cl->format.blueMax = 255;
+    }
+    SetFormatAndEncodings(cl);
+
+    cl->MallocFrameBuffer = &VNCConnector::mallocFrameBuffer;
+    cl->GotFrameBufferUpdate = &VNCConnector::gotFrameBufferUpdate;
+    cl->FinishedFrameBufferUpdate = &VNCConnector::finishedFrameBufferUpdate;
+    cl->GotXCutText = ignoreCutText;
+    cl->HandleKeyboardLedState = ignoreLedState;
+    cl->HandleTextChat = ignoreTextChat;
+    cl->GetPassword = &VNCConnector::getPassword;
+    cl->canHandleNewFBSize = TRUE;
+
+    QByteArray program = QCoreApplication::applicationDirPath().toLocal8Bit();
+    QByteArray server = connection.getAddress().toLocal8Bit();
+    int argc = 2;
+    char* argv[] = {program.data(), server.data(), nullptr};
+    if (!rfbInitClient(cl, &argc, argv)) {
+        cl = nullptr; // freed by the library
+        return false;
+    }
+
+    auto* view = new ViewDialog; // one window per session, kept after it closes
+    if (connection.getBool(QStringLiteral("shrink")))
+        view->setShrink(true);
+    if (connection.getBool(QStringLiteral("fullscreen")))
+        view->showFullScreen();
+    else
+        view->show();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    view->setGeometry(VncInput::windowGeometry(screen ? screen->size() : QSize(), connection.getInt(QStringLiteral("percentage"))));
+    view->connectView(this);
+    return true;
+}
+
+void VNCConnector::handleEvent()
+{
+    if (!cl || m_serverGone) {
+        // The window stays open with its last frame; the loop keeps its 10 ms pace.
+        QThread::msleep(10);
+        return;
+    }
+    // The time-out is in microseconds; data the library has already buffered does not wake it.
+    const int ready = cl->buffered > 0 ? 1 : WaitForMessage(cl, 10000);
+    if (ready < 0 || (ready > 0 && !HandleRFBServerMessage(cl))) {
+        qWarning() << "VNC server closed the connection";
+        m_serverGone = true;
+    }
+}
+
+void VNCConnector::cursorEvent(CursorEvent event)
+{
+    if (cl)
+        SendPointerEvent(cl, event.pos.x(), event.pos.y(), event.mask);
+}
+
+void VNCConnector::sendKey(KeyEvent event)
+{
+    qDebug() << "Send key" << event.key;
+    if (cl)
+        SendKeyEvent(cl, VncInput::keysymForQtKey(event.key), event.pressed ? TRUE : FALSE);
+}
+
+void VNCConnector::terminate()
+{
+    if (cl)
+        rfbClientCleanup(cl);
+    cl = nullptr; // input that arrives after the window closed must not reach a freed client
+}
+
+void VNCConnector::test()
+{
+    qInfo() << "test from VNCConnector";
+    while (!m_terminate) {
+        handleEvent();
+        QCoreApplication::processEvents();
+    }
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "Connection.h"
+#include "RemoteConnectionInterface.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QRect>
+
+#include <memory>
+
+class QQmlEngine;
+class QJSEngine;
+class RunningProcess;
+struct _rfbClient;
+
+// The built-in VNC viewer's session on libvncclient: one session at a time, run on the main thread
+// by the viewer window.
+class VNCConnector : public RemoteConnectionInterface {
+    Q_OBJECT
+public:
+    static VNCConnector* getInstance();
+    static QObject* qmlInstance(QQmlEngine* engine, QJSEngine* scriptEngine);
+
+    // Opens the session and the viewer window; returns when the window is closed (true), or at
+    // once with false when the server cannot be reached or refuses us.
+    bool initConnection(const Connection& connection);
+
+    bool isConnected() override { return !m_terminate; }
+    void handleEvent() override;
+    void cursorEvent(CursorEvent event) override;
+    void sendKey(KeyEvent event) override;
+    void terminate() override;
+    void resize() override {}
+
+    void emitImageReady(const QImage& image);
+
+    Q_INVOKABLE void test();
+    Q_INVOKABLE void test1() {}
+    Q_INVOKABLE void setImageSize(int width, int height)
+    {
+        m_width = width;
+        m_height = height;
+    }
+
+    // Whether "host[:port]" answers (the port scan; in the simulated terminal a TCP connection).
+    static bool resolveHost(const QString& address);
+    // The part of the framebuffer changed since the last frame was shown.
+    QRect pendingDamage() const { return m_damage; }
+
+signals:
+    // imageReady(QImage) comes from the interface.
+    void resize(int width, int height);
+
+private:
+    VNCConnector() = default;
+
+    static char* getPassword(_rfbClient* client);
+    static signed char mallocFrameBuffer(_rfbClient* client);
+    static void gotFrameBufferUpdate(_rfbClient* client, int x, int y, int w, int h);
+    static void finishedFrameBufferUpdate(_rfbClient* client);
+
+    static VNCConnector* m_instance;
+    bool m_terminate = false;
+    bool m_serverGone = false;
+    _rfbClient* cl = nullptr;
+    static QByteArray m_password;
+    static QImage m_image;
+    int m_width = 0;
+    int m_height = 0;
+    std::unique_ptr<RunningProcess> m_process;
+    QRect m_damage;
+};
