@@ -13,7 +13,7 @@ QtObject {
 
     readonly property var kinds: ({
         0: { label: qsTr("VMware Horizon"), icon: "layers", tint: "#E6F4EA", ink: "#1E7B45", form: "VMWareConnectDialog.qml" },
-        1: { label: qsTr("VNC"), icon: "screen-share", tint: "#EEEAFB", ink: "#5A46C2", form: "" },
+        1: { label: qsTr("VNC"), icon: "screen-share", tint: "#EEEAFB", ink: "#5A46C2", form: "AddVNCConnection.qml" },
         2: { label: qsTr("Citrix"), icon: "cloud", tint: "#E3F4F6", ink: "#137A87", form: "AddCitrixConnection.qml" },
         3: { label: qsTr("Remote Desktop"), icon: "remote-desktop", tint: "#E8EFFD", ink: "#2F6FED", form: "AddRDPConnection.qml" },
         4: { label: qsTr("Browser"), icon: "globe", tint: "#FDF0E3", ink: "#B8620B", form: "AddBrowserConnection.qml" },

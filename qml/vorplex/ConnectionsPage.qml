@@ -30,7 +30,7 @@ Item {
         { id: 0, type: kinds.vnc, title: qsTr("VNC") }
     ]
 
-    readonly property bool anyAddable: applicationEnabled[1] || applicationEnabled[3] || applicationEnabled[4]
+    readonly property bool anyAddable: applicationEnabled[0] || applicationEnabled[1] || applicationEnabled[3] || applicationEnabled[4]
                                        || applicationEnabled[2] || applicationEnabled[6] || applicationEnabled[5]
 
     function refreshApplications() {
@@ -196,6 +196,13 @@ Item {
                         iconName: kinds.icon(kinds.putty)
                         text: qsTr("PuTTY")
                         onTriggered: page.openForm(kinds.putty, -1)
+                    }
+                    NxMenuItem {
+                        visible: page.applicationEnabled[0]
+                        height: visible ? implicitHeight : 0
+                        iconName: kinds.icon(kinds.vnc)
+                        text: qsTr("VNC")
+                        onTriggered: page.openForm(kinds.vnc, -1)
                     }
                     MenuSeparator {
                         visible: page.applicationEnabled[5]

@@ -8,7 +8,7 @@
  *   password                Administrator password page, unlocked
  *   logs                    Logs page, unlocked
  *   connections             Connections settings (table and applications), unlocked
- *   add/rdp, add/citrix, add/vmware, add/browser, add/putty
+ *   add/rdp, add/citrix, add/vmware, add/browser, add/putty, add/vnc
  *                           the empty add form of that kind over the Connections settings, unlocked
  *   rdp-login               home screen with the RDP sign-in dialog open for the first record, if any
  *   citrix-progress         home screen with the Citrix progress popup open, showing a sample message
@@ -47,7 +47,8 @@ ApplicationWindow {
         "add/citrix": kinds.citrix,
         "add/vmware": kinds.vmware,
         "add/browser": kinds.browser,
-        "add/putty": kinds.putty
+        "add/putty": kinds.putty,
+        "add/vnc": kinds.vnc
     })
 
     // A tile was clicked: complete records start at once, RDP records without stored
