@@ -11,7 +11,7 @@ NORBIX_PACKAGES=(
     qml-module-qtquick-layouts qml-module-qtqml-models2 qml-module-qtquick-shapes
     libssl-dev openssl libvncserver-dev
     xvfb xauth x11-xserver-utils
-    freerdp2-x11 freerdp2-shadow-x11 winpr-utils
+    freerdp2-x11 freerdp2-shadow-x11 winpr-utils x11vnc
 )
 
 norbix_install_packages() {

@@ -18,6 +18,7 @@
 VNCConnector* VNCConnector::m_instance = nullptr;
 QByteArray VNCConnector::m_password;
 QImage VNCConnector::m_image;
+unsigned VNCConnector::m_networkTimeout = 30;
 
 VNCConnector* VNCConnector::getInstance()
 {
@@ -135,6 +136,8 @@ bool VNCConnector::initConnection(const Connection& connection)
     cl->HandleTextChat = ignoreTextChat;
     cl->GetPassword = &VNCConnector::getPassword;
     cl->canHandleNewFBSize = TRUE;
+    cl->connectTimeout = m_networkTimeout;
+    cl->readTimeout = m_networkTimeout;
 
     QByteArray program = QCoreApplication::applicationDirPath().toLocal8Bit();
     QByteArray server = connection.getAddress().toLocal8Bit();

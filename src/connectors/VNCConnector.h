@@ -45,6 +45,10 @@ public:
 
     // Whether "host[:port]" answers (the port scan; in the simulated terminal a TCP connection).
     static bool resolveHost(const QString& address);
+    // Seconds the library waits for a connection, or for the rest of a message from a server that
+    // went quiet (a half-open connection); without a limit such a server would hang the shell.
+    static void setNetworkTimeout(unsigned seconds) { m_networkTimeout = seconds; }
+
     // The part of the framebuffer changed since the last frame was shown.
     QRect pendingDamage() const { return m_damage; }
 
@@ -65,6 +69,7 @@ private:
     bool m_serverGone = false;
     _rfbClient* cl = nullptr;
     static QByteArray m_password;
+    static unsigned m_networkTimeout;
     static QImage m_image;
     int m_width = 0;
     int m_height = 0;
