@@ -151,18 +151,19 @@ void Updater::onAvailable(const QList<LocalUpdaterBackend::Version>& versions)
 
 void Updater::onServiceError(const QString& path, const QString& text)
 {
-    if (path == QLatin1String("upgrade/available")) {
-        if (!m_available.isEmpty()) {
-            m_available.clear();
-            emit availableChanged();
-        }
+    if (path == QLatin1String("upgrade/available") && !m_available.isEmpty()) {
+        m_available.clear();
+        emit availableChanged();
     }
+    // Whatever the service was doing, it cannot be followed any more.
+    const bool changed = m_requestPending || m_status.progress != 0 || !m_status.version.isEmpty();
     if (path == QLatin1String("upgrade/"))
         m_requestPending = false;
-    // Whatever the service was doing, it cannot be followed any more.
     m_status = {};
+    const QString before = m_state + m_message;
     setState(QStringLiteral("unavailable"), text, false);
-    emit statusChanged();
+    if (changed && before == m_state + m_message)
+        emit statusChanged();
     schedulePolling();
 }
 
@@ -171,14 +172,16 @@ void Updater::onCommandFinished(const QString& path, bool ok, const QString& tex
     if (path != QLatin1String("upgrade/"))
         return;
     m_requestPending = false;
-    if (!ok) {
-        qWarning().noquote() << "Update refused:" << text;
-        setState(QStringLiteral("failed"), text, true);
+    if (ok) {
         emit statusChanged();
+        m_backend.requestStatus();
         return;
     }
-    emit statusChanged();
-    m_backend.requestStatus();
+    qWarning().noquote() << "Update refused:" << text;
+    const QString before = m_state + m_message;
+    setState(QStringLiteral("failed"), text, true);
+    if (before == m_state + m_message)
+        emit statusChanged();
 }
 
 std::optional<LocalUpdaterBackend::Version> Updater::pickAutoUpdate(const QList<LocalUpdaterBackend::Version>& offered,
