@@ -165,7 +165,7 @@ std::optional<QByteArray> LocalUpdaterBackend::bodyOf(QNetworkReply* reply, cons
     } else {
         message = tr("The update service is not running.");
     }
-    qWarning().noquote() << "Update service" << path << reply->errorString();
+    qInfo().noquote() << "Update service" << path << reply->errorString();
     emit serviceError(path, message);
     return std::nullopt;
 }

@@ -176,8 +176,11 @@ void seedSandbox()
     if (QFileInfo::exists(drive))
         return;
     QDir().mkpath(drive);
-    for (const char* name : {"corp.root.pem", "branch-office.der", "client.pfx"})
-        QFile::copy(QStringLiteral(":/simulation/certificates/") + QLatin1String(name), drive + QLatin1Char('/') + QLatin1String(name));
+    // A PEM bundle under a .cer name, a DER file and a PKCS#12 file (password "s3cret").
+    const std::pair<const char*, const char*> files[] = {
+        {"corp.root.pem", "corp.root.cer"}, {"branch-office.der", "branch-office.der"}, {"client.pfx", "client.pfx"}};
+    for (const auto& [fixtureName, name] : files)
+        QFile::copy(QStringLiteral(":/simulation/certificates/") + QLatin1String(fixtureName), drive + QLatin1Char('/') + QLatin1String(name));
     for (const QString& file : QDir(drive).entryList(QDir::Files))
         QFile(drive + QLatin1Char('/') + file).setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther);
 }
