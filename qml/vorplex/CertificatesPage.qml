@@ -256,7 +256,7 @@ PageScaffold {
     ModalDialog {
         id: removeDialog
         title: qsTr("Remove certificate")
-        message: qsTr("Sessions will no longer trust servers whose certificates were issued by %1.").arg(page.pendingRemoval)
+        message: qsTr("Remove %1? This terminal and its sessions will no longer trust the servers it vouches for.").arg(page.pendingRemoval)
         okText: qsTr("Remove")
         destructive: true
         onOkClicked: {

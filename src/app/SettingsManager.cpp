@@ -36,6 +36,12 @@ bool replaceFromSet(const QString& source, const QString& target)
     return AtomicFile::write(target, file.readAll());
 }
 
+SettingsManager::SettingsReporter& settingsReporter()
+{
+    static SettingsManager::SettingsReporter reporter;
+    return reporter;
+}
+
 void reloadAfterImport(const QString& key)
 {
     if (key == QLatin1String("connections"))
@@ -59,6 +65,11 @@ const QList<SettingsManager::Item>& SettingsManager::items()
         {"wallpaperSettings", "wallpaper", true},
     };
     return list;
+}
+
+void SettingsManager::setSettingsReporter(SettingsReporter reporter)
+{
+    settingsReporter() = std::move(reporter);
 }
 
 QString SettingsManager::setFolderName(const QString& terminalId, const QDateTime& when)
@@ -127,6 +138,8 @@ void SettingsManager::importConfig(const QString& path)
         reloadAfterImport(key);
     }
     m_selection.clear();
+    if (settingsReporter())
+        settingsReporter()();
     emit importFinished(copied, missing);
 }
 

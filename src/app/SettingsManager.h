@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
+
 // Copies chosen groups of the terminal's configuration to a folder on removable media and back.
 // An exported set is a folder "<terminal name>-dd-MM-yyyy-hh-mm-ss" holding plain copies of the
 // data directory's files.
@@ -30,6 +32,10 @@ public:
     Q_INVOKABLE QStringList listFoldersToImport();
 
     static QString setFolderName(const QString& terminalId, const QDateTime& when);
+
+    // Who is asked to report the settings again after every import (the management-server client).
+    using SettingsReporter = std::function<void()>;
+    static void setSettingsReporter(SettingsReporter reporter);
 
 signals:
     // folder is the set folder; copied counts the groups written into it.

@@ -199,6 +199,8 @@ private slots:
 
     void importWithNothingChosenChangesNothing()
     {
+        int reports = 0;
+        SettingsManager::setSettingsReporter([&reports] { ++reports; });
         const QString set = drive() + QStringLiteral("/set");
         TestSandbox::writeFile(set + QStringLiteral("/display.ini"), "other");
         const auto before = snapshot(m_sandbox->path(QStringLiteral("/data/norbix")));
@@ -208,6 +210,9 @@ private slots:
         QCOMPARE(snapshot(m_sandbox->path(QStringLiteral("/data/norbix"))), before);
         QCOMPARE(finished.count(), 1);
         QCOMPARE(finished.first().at(0).toInt(), 0);
+        // The server is still asked for a fresh report.
+        QCOMPARE(reports, 1);
+        SettingsManager::setSettingsReporter({});
     }
 
     void importedConnectionsReachTheScreens()
