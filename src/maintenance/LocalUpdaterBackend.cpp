@@ -42,6 +42,7 @@ QVariantMap LocalUpdaterBackend::Version::toMap() const
 LocalUpdaterBackend::LocalUpdaterBackend(QObject* parent) : QObject(parent), m_baseUrl(QString::fromLatin1(kServiceUrl))
 {
     qRegisterMetaType<LocalUpdaterBackend::Status>();
+    qRegisterMetaType<QList<LocalUpdaterBackend::Version>>();
 }
 
 std::optional<LocalUpdaterBackend::Status> LocalUpdaterBackend::parseStatus(const QByteArray& body)

@@ -73,3 +73,4 @@ private:
 };
 
 Q_DECLARE_METATYPE(LocalUpdaterBackend::Status)
+Q_DECLARE_METATYPE(LocalUpdaterBackend::Version)

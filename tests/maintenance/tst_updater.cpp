@@ -63,15 +63,12 @@ using Version = LocalUpdaterBackend::Version;
 
 } // namespace
 
-Q_DECLARE_METATYPE(QList<LocalUpdaterBackend::Version>)
-
 class tst_Updater : public QObject {
     Q_OBJECT
 
 private slots:
     void initTestCase()
     {
-        qRegisterMetaType<QList<LocalUpdaterBackend::Version>>();
         if (!QFile::exists(QStringLiteral("/usr/bin/python3")))
             QSKIP("/usr/bin/python3 is missing");
     }
