@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 namespace {
 
@@ -213,7 +214,10 @@ void CertificatesStorage::addCertificate(const QString& path, const QString& pas
 
 QString CertificatesStorage::addCertificateFromServer(const QString& name, const QString& cert, const QString& password)
 {
-    const QString fileName = QFileInfo(name).fileName();
+    // The name ends up in a command-line text: only characters that cannot split or quote it.
+    QString fileName = QFileInfo(name).fileName();
+    static const QRegularExpression unsafe(QStringLiteral("[^A-Za-z0-9._-]"));
+    fileName.replace(unsafe, QStringLiteral("_"));
     if (fileName.section(QLatin1Char('.'), 0, 0).isEmpty() || cert.isEmpty()) {
         qWarning().noquote() << "Received certificate without a usable name or content" << name;
         return QStringLiteral("error");

@@ -202,6 +202,9 @@ private slots:
                                      << QStringList{"sudo", "cp", received + "corp.root.pem", kLocal + "corp.crt"};
         QTest::newRow("pem as base64") << "corp.root.pem" << pem.toBase64() << ""
                                        << QStringList{"sudo", "cp", received + "corp.root.pem", kLocal + "corp.crt"};
+        QTest::newRow("blanks and quotes cannot split the command")
+            << "my \"corp\" ca.der" << TestSandbox::readFile(kCerts + "branch-office.der").toBase64() << ""
+            << QStringList{"openssl", "x509", "-inform", "der", "-in", received + "my__corp__ca.der", "-out", kLocal + "my__corp__ca.crt"};
         QTest::newRow("a path is only a name") << "../../etc/corp.pem" << pem << ""
                                                << QStringList{"sudo", "cp", received + "corp.pem", kLocal + "corp.crt"};
     }
