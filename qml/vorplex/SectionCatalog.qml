@@ -53,7 +53,7 @@ QtObject {
         {
             title: qsTr("Security"),
             sections: [
-                { id: "certificates", title: qsTr("Certificates"), icon: "award", admin: true, page: "",
+                { id: "certificates", title: qsTr("Certificates"), icon: "award", admin: true, page: "CertificatesPage.qml",
                   description: qsTr("Trusted certificate authorities and client certificates.") },
                 { id: "password", title: qsTr("Administrator password"), icon: "key", admin: true,
                   page: "AdminPasswordPage.qml",
@@ -65,11 +65,11 @@ QtObject {
             sections: [
                 { id: "management", title: qsTr("Management server"), icon: "server", admin: true, page: "",
                   description: qsTr("Central management of this terminal.") },
-                { id: "updates", title: qsTr("Updates"), icon: "update", admin: true, page: "",
+                { id: "updates", title: qsTr("Updates"), icon: "update", admin: true, page: "UpdatesPage.qml",
                   description: qsTr("Software updates for this terminal.") },
-                { id: "export", title: qsTr("Export settings"), icon: "upload", admin: true, page: "",
+                { id: "export", title: qsTr("Export settings"), icon: "upload", admin: true, page: "ExportSettingsPage.qml",
                   description: qsTr("Save this terminal's configuration to a USB drive.") },
-                { id: "import", title: qsTr("Import settings"), icon: "download", admin: true, page: "",
+                { id: "import", title: qsTr("Import settings"), icon: "download", admin: true, page: "ImportSettingsPage.qml",
                   description: qsTr("Load a configuration from a USB drive.") }
             ]
         },

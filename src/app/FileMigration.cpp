@@ -2,6 +2,7 @@
 
 #include "CommandRunner.h"
 #include "SystemPaths.h"
+#include "Updater.h"
 
 #include <QDebug>
 #include <QFile>
@@ -33,6 +34,8 @@ void migrateFiles()
          QStringLiteral("sudo mkdir -p /data/norbix && sudo chmod 0777 /data/norbix && sudo chown -R $USER /data/norbix")});
     qDebug().noquote() << QString::fromLocal8Bit(mkdir.standardError);
     qDebug().noquote() << QString::fromLocal8Bit(mkdir.standardOutput);
+
+    Updater::getInstance();
 
     // The file already in the data directory wins: the working-directory copy goes either way.
     for (const char* name : kLegacyFiles) {

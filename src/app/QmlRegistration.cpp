@@ -2,17 +2,21 @@
 
 #include "BrowserConnectDialogBackend.h"
 #include "CitrixConnectDialogBackend.h"
+#include "CertificatesStorage.h"
 #include "CitrixConnector.h"
 #include "ConnectionManager.h"
 #include "LanguageBackend.h"
+#include "LocalUpdaterBackend.h"
 #include "LogManager.h"
 #include "PasswordManager.h"
 #include "PrintersBackend.h"
 #include "PuttyConnectDialogBackend.h"
 #include "RDPConnectDialogBackend.h"
 #include "RDPConnector.h"
+#include "SettingsManager.h"
 #include "TeamsConnector.h"
 #include "USBManager.h"
+#include "Updater.h"
 #include "VMWareConnectDialogBackend.h"
 #include "VNCConnectDialogBackend.h"
 #include "VNCConnector.h"
@@ -32,12 +36,16 @@ void registerQmlTypes()
     qmlRegisterType<ConnectionTableModel>("com.ConnectionTableModel", 1, 0, "ConnectionTableModel");
     qmlRegisterType<PrintersBackend>("com.PrintersBackend", 1, 0, "PrintersBackend");
     qmlRegisterType<TeamsConnector>("com.TeamsConnector", 1, 0, "TeamsConnector");
+    qmlRegisterType<CertificatesStorage>("com.CertificatesStorage", 1, 0, "CertificatesStorage");
     qmlRegisterType<LogManager>("com.LogManager", 1, 0, "LogManager");
+    qmlRegisterType<LocalUpdaterBackend>("com.LocalUpdaterBackend", 1, 0, "LocalUpdaterBackend");
     qmlRegisterType<USBManager>("com.USBManager", 1, 0, "USBManager");
     qmlRegisterType<PasswordManager>("com.PasswordManager", 1, 0, "PasswordManager");
+    qmlRegisterType<SettingsManager>("com.SettingsManager", 1, 0, "SettingsManager");
     qmlRegisterSingletonType<VNCConnector>("com.VNCConnector", 1, 0, "VNCConnector", &VNCConnector::qmlInstance);
     qmlRegisterSingletonType<ConnectionManager>("com.ConnectionManager", 1, 0, "ConnectionManager", &ConnectionManager::qmlInstance);
     qmlRegisterSingletonType<RDPConnector>("com.RDPConnector", 1, 0, "RDPConnector", &RDPConnector::qmlInstance);
+    qmlRegisterSingletonType<Updater>("com.Updater", 1, 0, "Updater", &Updater::qmlInstance);
     qmlRegisterSingletonType<CitrixConnector>("com.CitrixConnector", 1, 0, "CitrixConnector", &CitrixConnector::qmlInstance);
 }
 
@@ -47,7 +55,9 @@ void ContextObjects::publish(QQmlContext* context)
     context->setContextProperty(QStringLiteral("connectionTableModel"), &connectionTableModel);
     qDebug() << "prepare connectionsModel";
     context->setContextProperty(QStringLiteral("connectionsModel"), &connectionsModel);
+    context->setContextProperty(QStringLiteral("clipboard"), &clipboard);
     context->setContextProperty(QStringLiteral("hardwareUtils"), &hardwareUtils);
     context->setContextProperty(QStringLiteral("cryptoUtils"), &cryptoUtils);
+    context->setContextProperty(QStringLiteral("certModel"), &certModel);
     qInfo() << "Models ready";
 }

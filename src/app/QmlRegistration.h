@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CertificatesModel.h"
+#include "ClipboardProxy.h"
 #include "ConnectionTableModel.h"
 #include "ConnectionsModel.h"
 #include "CryptoUtils.h"
@@ -14,8 +16,10 @@ void registerQmlTypes();
 struct ContextObjects {
     ConnectionTableModel connectionTableModel;
     ConnectionsModel connectionsModel;
+    ClipboardProxy clipboard;
     HardwareUtils hardwareUtils;
     CryptoUtils cryptoUtils;
+    CertificatesModel certModel;
 
     // Publishes them (logging the models' "prepare" lines), then logs "Models ready".
     void publish(QQmlContext* context);

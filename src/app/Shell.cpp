@@ -13,6 +13,7 @@
 #include "ShellOptions.h"
 #include "SystemPaths.h"
 #include "TeamsConnector.h"
+#include "TrayIcon.h"
 #include "WindowPresenter.h"
 
 #include <QApplication>
@@ -108,6 +109,7 @@ int runShell(int argc, char* argv[])
     engine.load(QUrl(QStringLiteral("qrc:/vorplex/Main.qml")));
     TeamsConnector::runThread();
     ConnectionManager::getInstance()->performAutoconnect();
+    TrayIcon trayIcon;
     std::unique_ptr<WindowPresenter> presenter;
     if (!engine.rootObjects().isEmpty())
         presenter = std::make_unique<WindowPresenter>(engine.rootObjects().constFirst(), options);

@@ -1,5 +1,6 @@
 #include "SimulatedTerminal.h"
 
+#include "SimulatedCertificates.h"
 #include "SystemPaths.h"
 
 #include <QDir>
@@ -167,6 +168,7 @@ void SimulatedTerminal::prepareSandbox()
         return;
     for (const char* dir : {"/opt/norbix/tools", "/media/NORBIX-USB", "/usr/local/share/ca-certificates", "/etc"})
         QDir().mkpath(SystemPaths::resolve(QLatin1String(dir)));
+    SimulatedCertificates::seedSandbox();
 }
 
 void SimulatedTerminal::addHandler(const Handler& handler)
@@ -190,6 +192,8 @@ SimulatedTerminal::Answer SimulatedTerminal::answer(const QString& program, cons
     if (auto answer = rdpClient(program, arguments))
         return *answer;
     if (auto answer = portScan(program, arguments))
+        return *answer;
+    if (auto answer = SimulatedCertificates::answer(program, arguments))
         return *answer;
     if (auto answer = fromTable(program, arguments))
         return *answer;
