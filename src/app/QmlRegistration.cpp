@@ -1,5 +1,6 @@
 #include "QmlRegistration.h"
 
+#include "APIManager.h"
 #include "BrowserConnectDialogBackend.h"
 #include "CitrixConnectDialogBackend.h"
 #include "CitrixConnector.h"
@@ -11,6 +12,7 @@
 #include "PuttyConnectDialogBackend.h"
 #include "RDPConnectDialogBackend.h"
 #include "RDPConnector.h"
+#include "RemoteAssistanceBackend.h"
 #include "TeamsConnector.h"
 #include "USBManager.h"
 #include "VMWareConnectDialogBackend.h"
@@ -38,7 +40,9 @@ void registerQmlTypes()
     qmlRegisterSingletonType<VNCConnector>("com.VNCConnector", 1, 0, "VNCConnector", &VNCConnector::qmlInstance);
     qmlRegisterSingletonType<ConnectionManager>("com.ConnectionManager", 1, 0, "ConnectionManager", &ConnectionManager::qmlInstance);
     qmlRegisterSingletonType<RDPConnector>("com.RDPConnector", 1, 0, "RDPConnector", &RDPConnector::qmlInstance);
+    qmlRegisterSingletonType<APIManager>("com.APIManager", 1, 0, "APIManager", &APIManager::qmlInstance);
     qmlRegisterSingletonType<CitrixConnector>("com.CitrixConnector", 1, 0, "CitrixConnector", &CitrixConnector::qmlInstance);
+    qmlRegisterType<RemoteAssistanceBackend>("com.RemoteAssistanceBackend", 1, 0, "RemoteAssistanceBackend");
 }
 
 void ContextObjects::publish(QQmlContext* context)

@@ -1,5 +1,6 @@
 #include "Shell.h"
 
+#include "APIManager.h"
 #include "CommandRunner.h"
 #include "ConnectionManager.h"
 #include "CrashHandler.h"
@@ -19,6 +20,7 @@
 #include <QDebug>
 #include <QFontDatabase>
 #include <QQmlApplicationEngine>
+#include <QQmlContext>
 #include <QSettings>
 
 #include <cstdio>
@@ -103,7 +105,10 @@ int runShell(int argc, char* argv[])
 
     const QString identity = HardwareUtils::deviceIdentity(HardwareUtils::inventory());
     const QString kernel = kernelDescription();
-    qDebug().noquote() << "Device" << identity << kernel;
+    APIManager* api = APIManager::getInstance();
+    api->init(identity, kernel);
+    qInfo().noquote() << "Computer name " + api->getId();
+    engine.rootContext()->setContextProperty(QStringLiteral("apiInstance"), api);
 
     engine.load(QUrl(QStringLiteral("qrc:/vorplex/Main.qml")));
     TeamsConnector::runThread();
