@@ -432,7 +432,7 @@ void APIManager::handleRequest(const QString& text)
     answer.insert(kAction, action);
 
     const QJsonValue data = request.value(kData);
-    QJsonValue body; // undefined: the answer has no "data"
+    QJsonValue body(QJsonValue::Undefined); // the answer has no "data"
     bool answerNow = true;
     const QString ok = QStringLiteral("ok");
 
