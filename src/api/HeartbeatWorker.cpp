@@ -38,4 +38,6 @@ void HeartbeatWorker::run()
         ++m_rounds;
         QThread::msleep(m_pauseMs);
     }
+    // Asked to stop: let the thread end too.
+    QThread::currentThread()->quit();
 }
