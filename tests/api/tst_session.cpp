@@ -162,11 +162,18 @@ private slots:
         ConnectionManager::getInstance()->remove(0);
         api()->needHelp();
         // The tunnel shows that the three requests have been handled (frames are handled in order).
-        QTRY_VERIFY_WITH_TIMEOUT(!m_runner.calls.isEmpty(), 20000);
+        auto tunnelStarted = [this] {
+            for (const FakeCommandRunner::Call& call : qAsConst(m_runner.calls))
+                if (call.program == QLatin1String("/opt/norbix/tools/tunnel"))
+                    return true;
+            return false;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(tunnelStarted(), 20000);
         // Then the marker: its answer must be the first frame the peer gets.
         setManagedFlag(true);
         m_peer.send(R"({"action":"ping","id":99})");
-        QCOMPARE(m_peer.received(), (QJsonObject{{"action", "pong"}, {"id", 99}}));
+        const QJsonObject marker = m_peer.received();
+        QVERIFY2(marker == (QJsonObject{{"action", "pong"}, {"id", 99}}), qPrintable(AgentHarness::text(marker)));
     }
 };
 
