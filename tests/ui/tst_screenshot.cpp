@@ -42,7 +42,8 @@ private slots:
         QTest::addColumn<QSize>("size");
         for (const QSize& size : {QSize(1280, 720), QSize(1920, 1080)}) {
             for (const char* page : {"main", "settings", "logs", "password", "lock", "connections", "add/rdp", "add/citrix",
-                                     "add/vmware", "rdp-login", "citrix-progress"})
+                                     "add/vmware", "rdp-login", "citrix-progress", "settings/management",
+                                     "remote-request", "help-answered"})
                 QTest::addRow("%s %dx%d", page, size.width(), size.height()) << QString::fromLatin1(page) << size;
         }
     }
