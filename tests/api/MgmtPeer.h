@@ -17,12 +17,13 @@ public:
         return QProcess::execute(QStringLiteral("/usr/bin/python3"), {"-c", "import websockets"}) == 0;
     }
 
-    bool start(quint16 port = 0)
+    bool start(quint16 port = 0, const QStringList& extraArguments = {})
     {
         m_lines.clear();
         m_seen = 0;
         m_process.setProgram(QStringLiteral("/usr/bin/python3"));
-        m_process.setArguments({QStringLiteral(NORBIX_SOURCE_DIR "/tools/mgmt-peer"), "--port", QString::number(port)});
+        m_process.setArguments(QStringList{QStringLiteral(NORBIX_SOURCE_DIR "/tools/mgmt-peer"), "--port", QString::number(port)}
+                               + extraArguments);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         m_process.start();
         const QString listening = waitFor(QStringLiteral("LISTENING "));

@@ -175,6 +175,24 @@ private slots:
         const QJsonObject marker = m_peer.received();
         QVERIFY2(marker == (QJsonObject{{"action", "pong"}, {"id", 99}}), qPrintable(AgentHarness::text(marker)));
     }
+
+    // A server with a certificate nobody vouches for is still reached.
+    void untrustedCertificateIsAccepted()
+    {
+        const QString cert = m_sandbox->home() + "/peer.crt";
+        const QString key = m_sandbox->home() + "/peer.key";
+        QCOMPARE(QProcess::execute("openssl", {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-keyout", key, "-out", cert,
+                                               "-days", "1", "-subj", "/CN=mgmt.invalid"}),
+                 0);
+        MgmtPeer secure;
+        QVERIFY(secure.start(0, {"--cert", cert, "--key", key}));
+        api()->setManaged(1);
+        api()->setManagedUrl(QStringLiteral("wss://127.0.0.1:%1/api/v1/ws").arg(secure.port()));
+        QVERIFY(!secure.waitFor("CONNECTED").isEmpty());
+        const QJsonObject auth = secure.received();
+        QCOMPARE(auth.value("action").toString(), QStringLiteral("auth"));
+        QCOMPARE(secure.received(), (QJsonObject{{"action", "getConnections"}}));
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_Session)
