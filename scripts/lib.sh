@@ -12,7 +12,7 @@ NORBIX_PACKAGES=(
     libssl-dev openssl libvncserver-dev
     xvfb xauth x11-xserver-utils
     freerdp2-x11 freerdp2-shadow-x11 winpr-utils x11vnc
-    python3
+    python3 python3-websockets
 )
 
 norbix_install_packages() {

@@ -12,6 +12,8 @@
  *                           the empty add form of that kind over the Connections settings, unlocked
  *   rdp-login               home screen with the RDP sign-in dialog open for the first record, if any
  *   citrix-progress         home screen with the Citrix progress popup open, showing a sample message
+ *   remote-request          home screen with a sample remote-assistance request (accepted on timeout)
+ *   help-answered           home screen, managed, after the server answered a help request
  *   settings/<section>      any settings section, unlocked. Sections:
  *                           connections, network-wired, network-wifi, network-8021x, hostname,
  *                           displays, power, datetime, sound, keyboard, mouse, language, wallpaper,
@@ -22,6 +24,7 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import NorbixUi 1.0
+import com.APIManager 1.0
 import com.ConnectionManager 1.0
 import com.RDPConnector 1.0
 
@@ -32,6 +35,7 @@ ApplicationWindow {
 
     function showHome() {
         settingsView.lock();
+        mainView.helpAvailable = APIManager.isEnabled();
         currentView = "main";
     }
 
@@ -103,6 +107,15 @@ ApplicationWindow {
             citrixProgress.showProgress(qsTr("Connecting to the Citrix store\u2026"));
             return;
         }
+        if (page === "remote-request") {
+            remotePopup.showPopup(0, 1, qsTr("Support desk"), qsTr("Alex from IT support would like to see your screen to help with your ticket."), 30, "", "");
+            return;
+        }
+        if (page === "help-answered") {
+            mainView.helpAvailable = true;
+            mainView.helpAnswered = true;
+            return;
+        }
         if (page === "settings") {
             showSettings("");
             return;
@@ -158,6 +171,10 @@ ApplicationWindow {
             }
         }
         onSettingsRequested: window.showSettings("")
+        onHelpRequested: {
+            APIManager.needHelp();
+            toast.show(qsTr("Your request for help has been sent."), "success");
+        }
         onConnectionSettingsRequested: window.showSettings("connections")
     }
 
@@ -173,6 +190,17 @@ ApplicationWindow {
 
         function onOpenPasswordPopup(index) {
             rdpLogin.openFor(index);
+        }
+    }
+
+    Connections {
+        target: APIManager
+
+        function onConnectionRequest(messageId, type, title, text, timeout, token, port) {
+            remotePopup.showPopup(messageId, type, title, text, timeout, token, port);
+        }
+        function onHelpNeeded() {
+            mainView.helpAnswered = true;
         }
     }
 
@@ -214,5 +242,9 @@ ApplicationWindow {
 
     TeamsPopup {
         id: teamsPopup
+    }
+
+    AdminConnectionPopup {
+        id: remotePopup
     }
 }

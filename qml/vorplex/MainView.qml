@@ -22,8 +22,13 @@ Rectangle {
         totalConnections = connectionsModel && connectionsModel.totalRows ? connectionsModel.totalRows() : tileGrid.count;
     }
 
+    // The help button shows while the terminal is managed; helpAnswered after the server's reply.
+    property bool helpAvailable: false
+    property bool helpAnswered: false
+
     signal settingsRequested()
     signal connectionSettingsRequested()
+    signal helpRequested()
 
     color: Theme.background
 
@@ -112,14 +117,26 @@ Rectangle {
             }
         }
 
-        NxButton {
+        Row {
             anchors.right: parent.right
             anchors.rightMargin: Theme.spacingXxl
             anchors.verticalCenter: parent.verticalCenter
-            kind: "onDark"
-            iconName: "gear"
-            text: qsTr("Settings")
-            onClicked: root.settingsRequested()
+            spacing: Theme.spacingS
+
+            NxButton {
+                visible: root.helpAvailable
+                kind: "onDark"
+                iconName: "users"
+                text: qsTr("Help")
+                onClicked: root.helpRequested()
+            }
+
+            NxButton {
+                kind: "onDark"
+                iconName: "gear"
+                text: qsTr("Settings")
+                onClicked: root.settingsRequested()
+            }
         }
     }
 
@@ -195,6 +212,46 @@ Rectangle {
                 iconName: "gear"
                 text: qsTr("Open connection settings")
                 onClicked: root.connectionSettingsRequested()
+            }
+        }
+    }
+
+    Rectangle {
+        id: helpBanner
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: footer.top
+        anchors.bottomMargin: Theme.spacingL
+        visible: root.helpAnswered
+        width: Math.min(parent.width - 2 * Theme.spacingXxl, helpRow.implicitWidth + 2 * Theme.spacingL)
+        height: helpRow.implicitHeight + 2 * Theme.spacingM
+        radius: Theme.radiusM
+        color: Theme.surface
+        border.color: Theme.accent
+
+        RowLayout {
+            id: helpRow
+            anchors.fill: parent
+            anchors.margins: Theme.spacingM
+            anchors.leftMargin: Theme.spacingL
+            spacing: Theme.spacingM
+
+            NxIcon {
+                name: "users"
+                color: Theme.accent
+            }
+
+            Text {
+                Layout.fillWidth: true
+                text: qsTr("An administrator has seen your request for help and will contact you.")
+                color: Theme.text
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.fontBody
+                wrapMode: Text.Wrap
+            }
+
+            IconButton {
+                iconName: "close"
+                onClicked: root.helpAnswered = false
             }
         }
     }

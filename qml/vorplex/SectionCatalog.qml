@@ -63,7 +63,7 @@ QtObject {
         {
             title: qsTr("Management"),
             sections: [
-                { id: "management", title: qsTr("Management server"), icon: "server", admin: true, page: "",
+                { id: "management", title: qsTr("Management server"), icon: "server", admin: true, page: "ManagementPage.qml",
                   description: qsTr("Central management of this terminal.") },
                 { id: "updates", title: qsTr("Updates"), icon: "update", admin: true, page: "UpdatesPage.qml",
                   description: qsTr("Software updates for this terminal.") },

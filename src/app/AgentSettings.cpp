@@ -1,18 +1,15 @@
 #include "AgentSettings.h"
 
+#include "APIManager.h"
 #include "SystemPaths.h"
 
 #include <QSettings>
-#include <QSysInfo>
 
 namespace AgentSettings {
 
 QString terminalId()
 {
-    const QString id = QSettings(SystemPaths::dataFile(QLatin1String(kFile)), QSettings::IniFormat)
-                           .value(QLatin1String(kIdKey))
-                           .toString();
-    return id.isEmpty() ? QSysInfo::machineHostName() : id;
+    return APIManager::getInstance()->getId();
 }
 
 void clearTerminalId()

@@ -9,7 +9,7 @@ namespace AgentSettings {
 inline constexpr const char* kFile = "api.ini";
 inline constexpr const char* kIdKey = "Id";
 
-// The stored terminal name; the host name (which the client keeps equal to it) when none is stored.
+// The terminal's name, made by the management-server client when none is stored.
 QString terminalId();
 // An imported api.ini must not give this terminal another terminal's name: the client makes a
 // new one from this terminal's own hardware when it next needs it.

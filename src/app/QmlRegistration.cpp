@@ -1,5 +1,6 @@
 #include "QmlRegistration.h"
 
+#include "APIManager.h"
 #include "BrowserConnectDialogBackend.h"
 #include "CitrixConnectDialogBackend.h"
 #include "CertificatesStorage.h"
@@ -13,6 +14,7 @@
 #include "PuttyConnectDialogBackend.h"
 #include "RDPConnectDialogBackend.h"
 #include "RDPConnector.h"
+#include "RemoteAssistanceBackend.h"
 #include "SettingsManager.h"
 #include "TeamsConnector.h"
 #include "USBManager.h"
@@ -46,7 +48,9 @@ void registerQmlTypes()
     qmlRegisterSingletonType<ConnectionManager>("com.ConnectionManager", 1, 0, "ConnectionManager", &ConnectionManager::qmlInstance);
     qmlRegisterSingletonType<RDPConnector>("com.RDPConnector", 1, 0, "RDPConnector", &RDPConnector::qmlInstance);
     qmlRegisterSingletonType<Updater>("com.Updater", 1, 0, "Updater", &Updater::qmlInstance);
+    qmlRegisterSingletonType<APIManager>("com.APIManager", 1, 0, "APIManager", &APIManager::qmlInstance);
     qmlRegisterSingletonType<CitrixConnector>("com.CitrixConnector", 1, 0, "CitrixConnector", &CitrixConnector::qmlInstance);
+    qmlRegisterType<RemoteAssistanceBackend>("com.RemoteAssistanceBackend", 1, 0, "RemoteAssistanceBackend");
 }
 
 void ContextObjects::publish(QQmlContext* context)

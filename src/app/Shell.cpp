@@ -1,5 +1,7 @@
 #include "Shell.h"
 
+#include "APIManager.h"
+#include "CertificatesStorage.h"
 #include "CommandRunner.h"
 #include "ConnectionManager.h"
 #include "CrashHandler.h"
@@ -10,16 +12,19 @@
 #include "QmlRegistration.h"
 #include "RawImageProvider.h"
 #include "RenderingSetup.h"
+#include "SettingsManager.h"
 #include "ShellOptions.h"
 #include "SystemPaths.h"
 #include "TeamsConnector.h"
 #include "TrayIcon.h"
+#include "Updater.h"
 #include "WindowPresenter.h"
 
 #include <QApplication>
 #include <QDebug>
 #include <QFontDatabase>
 #include <QQmlApplicationEngine>
+#include <QQmlContext>
 #include <QSettings>
 
 #include <cstdio>
@@ -56,6 +61,24 @@ QString kernelDescription()
     text.remove(QLatin1Char('\n'));
     text.remove(QLatin1Char('\\'));
     return text;
+}
+
+// What the management server may ask of the updater and the certificate store, and the settings
+// report after an import.
+void connectAgent()
+{
+    APIManager::Services services;
+    services.update = [](const QString& type, const QString& version) { Updater::getInstance()->update(type, version); };
+    services.updateSystem = [](const QString& type, const QString& version) {
+        Updater::getInstance()->updateSystem(type, version);
+    };
+    services.removeCertificate = [](const QString& name) { CertificatesStorage::removeCertificate(name); };
+    services.cleanCertificates = [] { CertificatesStorage::cleanCertificates(); };
+    services.addCertificateFromServer = [](const QString& name, const QString& cert, const QString& pass) {
+        return CertificatesStorage::addCertificateFromServer(name, cert, pass) == QLatin1String("ok");
+    };
+    APIManager::setServices(services);
+    SettingsManager::setSettingsReporter([] { APIManager::getInstance()->updateSettings(); });
 }
 
 } // namespace
@@ -104,7 +127,11 @@ int runShell(int argc, char* argv[])
 
     const QString identity = HardwareUtils::deviceIdentity(HardwareUtils::inventory());
     const QString kernel = kernelDescription();
-    qDebug().noquote() << "Device" << identity << kernel;
+    APIManager* api = APIManager::getInstance();
+    connectAgent();
+    api->init(identity, kernel);
+    qInfo().noquote() << "Computer name " + api->getId();
+    engine.rootContext()->setContextProperty(QStringLiteral("apiInstance"), api);
 
     engine.load(QUrl(QStringLiteral("qrc:/vorplex/Main.qml")));
     TeamsConnector::runThread();

@@ -64,6 +64,23 @@ std::optional<SimulatedTerminal::Answer> bashMkdir(const QString& program, const
     return succeeded();
 }
 
+// "sudo cp -f SRC DST": system files are edited as copies in the data directory and installed
+// with a copy; the sandbox gets the copy, so /etc/hosts and friends can be looked at.
+std::optional<SimulatedTerminal::Answer> sudoCopy(const QString& program, const QStringList& arguments)
+{
+    if (program != QLatin1String("sudo") || arguments.size() != 4 || arguments.at(0) != QLatin1String("cp")
+        || arguments.at(1) != QLatin1String("-f") || SystemPaths::root().isEmpty())
+        return std::nullopt;
+    const QString target = SystemPaths::resolve(arguments.at(3));
+    QFile::remove(target);
+    SimulatedTerminal::Answer answer = succeeded();
+    if (!QFile::copy(SystemPaths::resolve(arguments.at(2)), target)) {
+        answer.result.exitCode = 1;
+        answer.result.standardError = "cp: cannot stat '" + arguments.at(2).toUtf8() + "': No such file or directory\n";
+    }
+    return answer;
+}
+
 // The FreeRDP client: a missing password fails authorisation, a missing host is an invalid
 // address, anything else is a session that the user logs off from a few seconds later.
 std::optional<SimulatedTerminal::Answer> rdpClient(const QString& program, const QStringList& arguments)
@@ -188,6 +205,8 @@ SimulatedTerminal::Answer SimulatedTerminal::answer(const QString& program, cons
         }
     }
     if (auto answer = bashMkdir(program, arguments))
+        return *answer;
+    if (auto answer = sudoCopy(program, arguments))
         return *answer;
     if (auto answer = rdpClient(program, arguments))
         return *answer;

@@ -43,7 +43,8 @@ private slots:
         for (const QSize& size : {QSize(1280, 720), QSize(1920, 1080)}) {
             for (const char* page : {"main", "settings", "logs", "password", "lock", "connections", "add/rdp", "add/citrix",
                                      "add/vmware", "add/vnc", "rdp-login", "citrix-progress", "settings/certificates",
-                                     "settings/export", "settings/import", "settings/updates"})
+                                     "settings/export", "settings/import", "settings/updates", "settings/management",
+                                     "remote-request", "help-answered"})
                 QTest::addRow("%s %dx%d", page, size.width(), size.height()) << QString::fromLatin1(page) << size;
         }
     }
