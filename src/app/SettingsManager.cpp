@@ -1,6 +1,6 @@
 #include "SettingsManager.h"
 
-#include "AgentSettings.h"
+#include "APIManager.h"
 #include "AtomicFile.h"
 #include "ConnectionManager.h"
 #include "SystemPaths.h"
@@ -47,7 +47,7 @@ void reloadAfterImport(const QString& key)
     if (key == QLatin1String("connections"))
         ConnectionManager::getInstance()->reload();
     else if (key == QLatin1String("apiSettings"))
-        AgentSettings::clearTerminalId();
+        APIManager::getInstance()->setId(QString()); // never another terminal's name: this one makes its own
 }
 
 } // namespace
@@ -85,7 +85,7 @@ void SettingsManager::selection(const QString& type, bool selected)
 void SettingsManager::exportConfig(const QString& path)
 {
     qInfo() << "Export config";
-    const QString set = path + QLatin1Char('/') + setFolderName(AgentSettings::terminalId(), QDateTime::currentDateTime());
+    const QString set = path + QLatin1Char('/') + setFolderName(APIManager::getInstance()->getId(), QDateTime::currentDateTime());
     QDir().mkdir(set); // an export within the same second reuses the folder
     if (!QFileInfo(set).isDir()) {
         qWarning().noquote() << "Cannot create" << set;

@@ -1,4 +1,5 @@
 #include "ConnectionManager.h"
+#include "FakeCommandRunner.h"
 #include "SettingsManager.h"
 #include "TestSandbox.h"
 
@@ -31,6 +32,7 @@ class tst_SettingsIO : public QObject {
     Q_OBJECT
 
     TestSandbox* m_sandbox = nullptr;
+    FakeCommandRunner* m_runner = nullptr;
 
     QString drive() const { return m_sandbox->path(QStringLiteral("/media/USB")); }
 
@@ -58,10 +60,17 @@ private slots:
     void init()
     {
         m_sandbox = new TestSandbox;
+        m_runner = new FakeCommandRunner;
+        m_runner->answer(QStringLiteral("nmcli device show"),
+                         TestSandbox::readFile(QStringLiteral(NORBIX_TEST_DATA "/simulation/nmcli-device-show.txt")));
         QDir().mkpath(drive());
         fillDataDirectory();
     }
-    void cleanup() { delete m_sandbox; }
+    void cleanup()
+    {
+        delete m_runner;
+        delete m_sandbox;
+    }
 
     void setFolderName()
     {
@@ -154,7 +163,9 @@ private slots:
         select(manager, {"apiSettings"});
         manager.importConfig(set);
         QSettings api(m_sandbox->dataFile("api.ini"), QSettings::IniFormat);
-        QCOMPARE(api.value("Id").toString(), QString());
+        // This terminal's own name, made from its wired adapter, and set on the system.
+        QCOMPARE(api.value("Id").toString(), QStringLiteral("norbix-4A7B12"));
+        QVERIFY(m_runner->commandLines().contains(QStringList({"sudo", "hostname", "norbix-4A7B12"})));
         QCOMPARE(api.value("URL").toString(), QStringLiteral("wss://mgmt.example.org/api/v1/ws"));
         QCOMPARE(api.value("Account").toString(), QStringLiteral("acme"));
         QCOMPARE(api.value("Enabled").toBool(), true);
