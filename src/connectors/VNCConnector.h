@@ -33,6 +33,8 @@ public:
     void terminate() override;
     void resize() override {}
 
+    // Emits imageReady. A frame from the session shares the framebuffer the library writes into:
+    // it shows the latest complete frame and is not a snapshot (copy it to keep one).
     void emitImageReady(const QImage& image);
 
     Q_INVOKABLE void test();
@@ -45,7 +47,8 @@ public:
 
     // Whether "host[:port]" answers (the port scan; in the simulated terminal a TCP connection).
     static bool resolveHost(const QString& address);
-    // The part of the framebuffer changed since the last frame was shown.
+    // The part of the framebuffer changed since the last frame was shown; while imageReady is
+    // being delivered, the part that frame changed.
     QRect pendingDamage() const { return m_damage; }
 
 signals:

@@ -45,7 +45,8 @@ private:
     RemoteConnectionInterface* m_interface = nullptr;
     QPixmap m_pixmap;
     CustomGraphicsScene* m_scene = nullptr;
-    QGraphicsPixmapItem* m_item = nullptr; // one item, its pixmap replaced per frame
+    QGraphicsPixmapItem* m_item = nullptr; // one item for the whole session
+    const uchar* m_frameBits = nullptr;    // the pixels m_pixmap shares, when not scaled
     QMetaObject::Connection m_imageReadyConnection;
     bool m_shrink = false;
 };
