@@ -214,6 +214,7 @@ def run_once(kind, display, damage, xvfb, raw=True, static=False, seconds=MEASUR
             "foreign": ((after[7] - before[7]) - sum(after[i] - before[i] for i in (3, 4, 5, 8))) / elapsed,
             "translated": status.get("translated") > 0,
             "bpp": int(status.get("bpp")),
+            "depth": int(status.get("depth")),
             "encoding": int(status.get("encoding")),
         }
         figures["cpu_ms_per_frame"] = 1000.0 * figures["cpu"] / frames if frames else float("inf")
@@ -258,7 +259,7 @@ def rounds(display, damage, xvfb, kinds, count, raw):
             details.append(f"{kind} {relative} (painted/consumed {figures['painted'] / figures['fps']:.2f}, "
                            f"cpu/frame {figures['cpu_ms_per_frame'] / ours['cpu_ms_per_frame']:.2f}x ours, "
                            f"X server cpu/frame {1000 * figures['xcpu'] / figures['fps'] / (1000 * ours['xcpu'] / ours['fps']):.2f}x ours, "
-                           f"encoding {figures['encoding']}, steal {figures['steal']:.2f}, others {figures['foreign']:.2f})" if ours else kind)
+                           f"encoding {figures['encoding']}, depth {figures['depth']}, steal {figures['steal']:.2f}, others {figures['foreign']:.2f})" if ours else kind)
         print(f"round {len(results)} ({'raw' if raw else 'viewer default encodings'}): " + "; ".join(details), flush=True)
     return results
 

@@ -9,9 +9,9 @@
  * Usage: bench_vnc_push_server [--port N] [--static] [--encoding raw|client] [--password P]
  *                              [--passwd-file FILE] [--seconds S]
  * Prints "ready port=N" once listening, then every 100 ms a status line
- *   "status t=<s> updates=<n> clients=<n> translated=<0|1> encoding=<n> bpp=<n>"
+ *   "status t=<s> updates=<n> clients=<n> translated=<0|1> encoding=<n> bpp=<n> depth=<n>"
  * where updates counts full-screen updates sent, translated tells whether any update needed
- * pixel translation, encoding is the last encoding used and bpp the viewer's bits per pixel.
+ * pixel translation, encoding is the last encoding used, bpp and depth the viewer's pixel format.
  */
 #include <rfb/rfb.h>
 
@@ -32,6 +32,7 @@ static long updates = 0;
 static int translated = 0;
 static int lastEncoding = -1;
 static int clientBpp = 0;
+static int clientDepth = 0;
 static volatile sig_atomic_t stopRequested = 0;
 
 static double now(void)
@@ -78,6 +79,7 @@ static void beforeUpdate(rfbClientPtr cl)
     }
     lastEncoding = cl->preferredEncoding;
     clientBpp = cl->format.bitsPerPixel;
+    clientDepth = cl->format.depth;
     if (pushMode) {
         nextFrame = (nextFrame + 1) % kFrames;
         cl->screen->frameBuffer = frames[nextFrame];
@@ -173,8 +175,8 @@ int main(int argc, char** argv)
             while (rfbClientIteratorNext(it))
                 ++clients;
             rfbReleaseClientIterator(it);
-            printf("status t=%.3f updates=%ld clients=%d translated=%d encoding=%d bpp=%d\n", t - start, updates,
-                clients, translated, lastEncoding, clientBpp);
+            printf("status t=%.3f updates=%ld clients=%d translated=%d encoding=%d bpp=%d depth=%d\n", t - start,
+                updates, clients, translated, lastEncoding, clientBpp, clientDepth);
             fflush(stdout);
             nextStatus = t + 0.1;
         }
