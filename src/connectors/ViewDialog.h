@@ -29,6 +29,7 @@ public:
     void setShrink(bool shrink) { m_shrink = shrink; }
 
     QGraphicsView* view() const { return ui->graphicsView; }
+    // The frame on screen; unscaled, it shares the session's framebuffer rather than being a copy.
     QPixmap lastFrame() const { return m_pixmap; }
 
 public slots:
