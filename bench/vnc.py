@@ -307,6 +307,7 @@ def idle(display, damage, xvfb):
 
 
 def main():
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # so that the servers and viewers are stopped
     xvfb, display = start_xvfb()
     damage_proc = subprocess.Popen([DAMAGE], stdout=subprocess.PIPE, text=True, env=dict(os.environ, DISPLAY=display))
     damage = Reporter(damage_proc, "damage")
