@@ -45,6 +45,8 @@ SERVER = os.path.join(BUILD, "bench", "bench_vnc_push_server")
 BARE = os.path.join(BUILD, "bench", "bench_vnc_bare_client")
 DAMAGE = os.path.join(BUILD, "bench", "bench_damage_counter")
 SHELL = os.path.join(BUILD, "src", "norbix-shell")
+# Another build of the shell to compare with ours in the same rounds (kind "baseline").
+BASELINE = os.environ.get("BENCH_VNC_BASELINE", "")
 
 
 class Reporter:
@@ -143,8 +145,8 @@ def krdc_home(sandbox):
 
 def viewer_command(kind, port, sandbox, raw):
     """argv, extra environment and working directory of one viewer."""
-    if kind == "ours":
-        return [SHELL], our_sandbox(sandbox, port), sandbox
+    if kind in ("ours", "baseline"):
+        return [SHELL if kind == "ours" else BASELINE], our_sandbox(sandbox, port), sandbox
     if kind == "bare":
         return [BARE, f"127.0.0.1:{port}", "--password", PASSWORD], {}, sandbox
     if kind == "tigervnc":
@@ -314,10 +316,10 @@ def main():
     try:
         if not damage.ready.wait(10):
             raise RuntimeError("damage counter did not start")
-        kinds = selected(["tigervnc", "krdc", "bare", "ours"])
+        kinds = selected(["tigervnc", "krdc", "bare", "ours"] + (["baseline"] if BASELINE else []))
         report(rounds(display, damage, xvfb, kinds, ROUNDS, raw=True))
         if DEFAULT_ROUNDS > 0:
-            default_kinds = [k for k in kinds if k != "bare"]
+            default_kinds = [k for k in kinds if k not in ("bare", "baseline")]
             report(rounds(display, damage, xvfb, default_kinds, DEFAULT_ROUNDS, raw=False), suffix="_default_encodings")
         if not ONLY or "idle" in ONLY.split(","):
             idle(display, damage, xvfb)
