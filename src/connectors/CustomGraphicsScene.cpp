@@ -5,6 +5,7 @@
 #include <QGraphicsItem>
 #include <QGraphicsSceneMouseEvent>
 #include <QKeyEvent>
+#include <QPainter>
 
 void CustomGraphicsScene::emitCursor(QGraphicsSceneMouseEvent* event, bool pressed)
 {
@@ -55,4 +56,14 @@ void CustomGraphicsScene::keyReleaseEvent(QKeyEvent* event)
 {
     QGraphicsScene::keyReleaseEvent(event);
     emit keyStatusChanged(KeyEvent{event->key(), false});
+}
+
+void CustomGraphicsScene::drawBackground(QPainter* painter, const QRectF& rect)
+{
+    // Black around the frame only: the frame is opaque and fills the scene rectangle.
+    QRegion surround(rect.toAlignedRect());
+    if (!items().isEmpty())
+        surround -= sceneRect().toAlignedRect();
+    for (const QRect& part : surround)
+        painter->fillRect(part, Qt::black);
 }

@@ -75,9 +75,15 @@ void VNCConnector::finishedFrameBufferUpdate(rfbClient* client)
     VNCConnector* self = getInstance();
     if (self->m_damage.isEmpty())
         return;
-    const QImage frame(client->frameBuffer, client->width, client->height, QImage::Format_RGB32);
-    if (frame.isNull())
-        qWarning() << "image not loaded" << frame.depth();
+    // The library writes into m_image: hand it on as it is (shared, not copied). Between server
+    // messages it always holds a complete frame, which is all the window ever paints.
+    QImage frame = m_image;
+    if (frame.isNull() || client->frameBuffer != frame.constBits()) {
+        frame = QImage(client->frameBuffer, client->width, client->height, QImage::Format_RGB32);
+        if (frame.isNull())
+            qWarning() << "image not loaded" << frame.depth();
+        frame = frame.copy();
+    }
     self->emitImageReady(frame);
     self->m_damage = QRect();
 }
@@ -85,7 +91,7 @@ void VNCConnector::finishedFrameBufferUpdate(rfbClient* client)
 void VNCConnector::emitImageReady(const QImage& image)
 {
     qDebug() << "new image available" << image.size();
-    emit imageReady(image.copy());
+    emit imageReady(image);
 }
 
 bool VNCConnector::initConnection(const Connection& connection)

@@ -33,6 +33,8 @@ public:
     void terminate() override;
     void resize() override {}
 
+    // Emits imageReady. A frame from the session shares the framebuffer the library writes into:
+    // it shows the latest complete frame and is not a snapshot (copy it to keep one).
     void emitImageReady(const QImage& image);
 
     Q_INVOKABLE void test();
@@ -49,7 +51,8 @@ public:
     // went quiet (a half-open connection); without a limit such a server would hang the shell.
     static void setNetworkTimeout(unsigned seconds) { m_networkTimeout = seconds; }
 
-    // The part of the framebuffer changed since the last frame was shown.
+    // The part of the framebuffer changed since the last frame was shown; while imageReady is
+    // being delivered, the part that frame changed.
     QRect pendingDamage() const { return m_damage; }
 
 signals:

@@ -2,6 +2,7 @@
 
 #include "CustomGraphicsScene.h"
 #include "RemoteConnectionInterface.h"
+#include "VNCConnector.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -17,8 +18,12 @@ void Ui_ViewDialog::setupUi(QDialog* dialog)
     verticalLayout->setContentsMargins(0, 0, 0, 0);
     graphicsView = new QGraphicsView(dialog);
     graphicsView->setFrameShape(QFrame::NoFrame);
-    graphicsView->setBackgroundBrush(Qt::black);
-    // Each frame repaints only what is visible; no anti-aliasing or smoothing work per frame.
+    // The scene paints the black surround itself and the frame is opaque: nothing is filled first
+    // and then painted over.
+    graphicsView->setBackgroundBrush(Qt::NoBrush);
+    graphicsView->viewport()->setAutoFillBackground(false);
+    graphicsView->viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    // Each frame repaints only what changed; no anti-aliasing or smoothing work per frame.
     graphicsView->setViewportUpdateMode(QGraphicsView::MinimalViewportUpdate);
     graphicsView->setOptimizationFlags(QGraphicsView::DontSavePainterState | QGraphicsView::DontAdjustForAntialiasing);
     graphicsView->setCacheMode(QGraphicsView::CacheNone);
@@ -67,19 +72,35 @@ void ViewDialog::imageReady(QImage image)
     if (!m_interface)
         return;
     const QSize frameSize = image.size();
-    if (m_shrink)
-        image = image.scaled(ui->graphicsView->width(), ui->graphicsView->height(), Qt::KeepAspectRatio, Qt::FastTransformation);
-    m_pixmap = QPixmap::fromImage(std::move(image));
+    // A frame that shares the buffer already shown (the connector's framebuffer) needs no new
+    // pixmap: only the part the update changed is repainted.
+    const bool sameBuffer = !m_shrink && m_item && !image.isNull() && image.constBits() == m_frameBits
+        && frameSize == m_pixmap.size();
+    QRect changed = m_pixmap.rect();
+    if (sameBuffer) {
+        if (const auto* vnc = qobject_cast<VNCConnector*>(m_interface); vnc && !vnc->pendingDamage().isEmpty())
+            changed = vnc->pendingDamage() & m_pixmap.rect();
+    } else {
+        if (m_shrink)
+            image = image.scaled(ui->graphicsView->width(), ui->graphicsView->height(), Qt::KeepAspectRatio, Qt::FastTransformation);
+        const uchar* bits = image.constBits();
+        // For 32-bit frames the pixmap shares the image's pixels (no conversion, no copy).
+        m_pixmap = QPixmap::fromImage(std::move(image));
+        m_frameBits = !m_shrink && m_pixmap.toImage().constBits() == bits ? bits : nullptr;
+    }
     QCoreApplication::processEvents();
     if (m_stopped || !m_scene)
         return;
     if (!m_item) {
         m_item = m_scene->addPixmap(m_pixmap);
         ui->graphicsView->setMouseTracking(true);
+    } else if (sameBuffer) {
+        m_item->update(changed);
     } else {
         m_item->setPixmap(m_pixmap);
     }
-    m_scene->setSceneRect(m_pixmap.rect());
+    if (m_scene->sceneRect() != QRectF(m_pixmap.rect()))
+        m_scene->setSceneRect(m_pixmap.rect());
     m_scene->setViewportSize(frameSize.width(), frameSize.height());
     m_scene->setOriginalSize(frameSize.width(), frameSize.height());
     ui->graphicsView->horizontalScrollBar()->setValue(0);

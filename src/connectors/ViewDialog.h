@@ -29,6 +29,7 @@ public:
     void setShrink(bool shrink) { m_shrink = shrink; }
 
     QGraphicsView* view() const { return ui->graphicsView; }
+    // The frame on screen; unscaled, it shares the session's framebuffer rather than being a copy.
     QPixmap lastFrame() const { return m_pixmap; }
 
 public slots:
@@ -45,7 +46,8 @@ private:
     RemoteConnectionInterface* m_interface = nullptr;
     QPixmap m_pixmap;
     CustomGraphicsScene* m_scene = nullptr;
-    QGraphicsPixmapItem* m_item = nullptr; // one item, its pixmap replaced per frame
+    QGraphicsPixmapItem* m_item = nullptr; // one item for the whole session
+    const uchar* m_frameBits = nullptr;    // the pixels m_pixmap shares, when not scaled
     QMetaObject::Connection m_imageReadyConnection;
     bool m_shrink = false;
 };

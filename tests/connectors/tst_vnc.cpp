@@ -5,14 +5,45 @@
 #include "VNCConnectDialogBackend.h"
 #include "VNCConnector.h"
 #include "VncInput.h"
+#include "ViewDialog.h"
 
 #include <QGraphicsPixmapItem>
 #include <QGraphicsView>
 #include <QSignalSpy>
+#include <QScreen>
+#include <QWindow>
 #include <QtTest>
+
+#include <algorithm>
 
 Q_DECLARE_METATYPE(CursorEvent)
 Q_DECLARE_METATYPE(KeyEvent)
+
+// A connector whose frames share one buffer that it repaints in place, as the VNC library does
+// with the framebuffer; one colour per step, then it reports the session over.
+class FrameSource : public RemoteConnectionInterface {
+public:
+    FrameSource(QSize size, QList<QColor> colours)
+        : m_frame(size, QImage::Format_RGB32), m_bits(reinterpret_cast<quint32*>(m_frame.bits())), m_colours(std::move(colours))
+    {
+    }
+    bool isConnected() override { return m_step < m_colours.size(); }
+    void handleEvent() override
+    {
+        std::fill(m_bits, m_bits + m_frame.width() * m_frame.height(), m_colours.at(m_step++).rgb());
+        emit imageReady(m_frame);
+    }
+    void cursorEvent(CursorEvent) override {}
+    void sendKey(KeyEvent) override {}
+    void terminate() override {}
+    void resize() override {}
+
+private:
+    QImage m_frame;
+    quint32* m_bits;
+    QList<QColor> m_colours;
+    int m_step = 0;
+};
 
 class tst_Vnc : public QObject {
     Q_OBJECT
@@ -177,6 +208,36 @@ private slots:
         QVERIFY(keys.at(1).at(0).value<KeyEvent>().pressed);
         QVERIFY(!keys.at(2).at(0).value<KeyEvent>().pressed);
         QCOMPARE(keys.at(3).at(0).value<KeyEvent>().key, int(Qt::Key_Shift));
+    }
+
+    // What reaches the screen: every frame, also when the connector repaints the same buffer,
+    // centred on black; scaled into the view when shrinking.
+    void viewShowsEveryFrame_data()
+    {
+        QTest::addColumn<bool>("shrink");
+        QTest::addColumn<QSize>("frameSize");
+        QTest::addColumn<QPoint>("inside");
+        QTest::newRow("as is, centred") << false << QSize(400, 300) << QPoint(300, 200);
+        QTest::newRow("shrunk to the view") << true << QSize(1200, 600) << QPoint(300, 200);
+    }
+    void viewShowsEveryFrame()
+    {
+        QFETCH(bool, shrink);
+        QFETCH(QSize, frameSize);
+        QFETCH(QPoint, inside);
+        ViewDialog dialog;
+        dialog.setShrink(shrink);
+        dialog.resize(600, 400);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        FrameSource source(frameSize, {Qt::red, Qt::blue});
+        dialog.connectView(&source);
+        QTest::qWait(50); // the session loop would go on processing events
+
+        const QImage shown = dialog.windowHandle()->screen()->grabWindow(dialog.winId()).toImage();
+        QCOMPARE(shown.pixelColor(inside), QColor(Qt::blue));
+        QCOMPARE(shown.pixelColor(2, 2), QColor(Qt::black));
+        QCOMPARE(dialog.lastFrame().toImage().pixelColor(0, 0), QColor(Qt::blue));
     }
 
     void dialogKeysAndPercentage()
