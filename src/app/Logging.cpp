@@ -12,6 +12,8 @@
 #include <QSettings>
 #include <QTextStream>
 
+#include <sys/stat.h>
+
 #include <csignal>
 #include <cstdio>
 
@@ -63,7 +65,24 @@ void deleteOldFiles(int days, const QDate& today)
 
 void deleteoldfiles(int days)
 {
-    Logging::deleteOldFiles(days, QDate::currentDate());
+    // Called after every message, so a busy session (a VNC frame logs one) must not list and stat
+    // the folder each time: which files are too old changes only with the date or when files come
+    // or go, and either changes the key below.
+    static struct {
+        int days = -1;
+        QDate today;
+        timespec folderChanged{};
+    } last;
+    const QDate today = QDate::currentDate();
+    struct stat folder {};
+    const bool known = ::stat(QFile::encodeName(Logging::logDirectory()).constData(), &folder) == 0;
+    if (known && last.days == days && last.today == today && last.folderChanged.tv_sec == folder.st_mtim.tv_sec
+        && last.folderChanged.tv_nsec == folder.st_mtim.tv_nsec)
+        return;
+    Logging::deleteOldFiles(days, today);
+    // What the pruning itself removed changed the folder again: take the time after it.
+    if (known && ::stat(QFile::encodeName(Logging::logDirectory()).constData(), &folder) == 0)
+        last = {days, today, folder.st_mtim};
 }
 
 void customMessageOutput(QtMsgType type, const QMessageLogContext& context, const QString& message)
