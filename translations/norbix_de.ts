@@ -493,6 +493,169 @@
     </message>
 </context>
 <context>
+    <name>AddVNCConnection</name>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="32"/>
+        <source>Server address can&apos;t be empty</source>
+        <translation>Die Serveradresse darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="35"/>
+        <source>Enter a host name or IP address, optionally followed by a colon and a port</source>
+        <translation>Geben Sie einen Hostnamen oder eine IP-Adresse ein, optional gefolgt von einem Doppelpunkt und einem Port</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="37"/>
+        <source>The port must be a number from 1 to 65535</source>
+        <translation>Der Port muss eine Zahl von 1 bis 65535 sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="42"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Der Verbindungsname darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="53"/>
+        <source>Edit VNC Connection</source>
+        <translation>VNC-Verbindung bearbeiten</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="53"/>
+        <source>Add VNC Connection</source>
+        <translation>VNC-Verbindung hinzufügen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="54"/>
+        <source>A remote screen shown in this terminal&apos;s own VNC viewer.</source>
+        <translation>Ein entfernter Bildschirm im VNC-Viewer dieses Terminals.</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="56"/>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="56"/>
+        <source>Add connection</source>
+        <translation>Verbindung hinzufügen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="88"/>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="102"/>
+        <source>Connection name</source>
+        <translation>Verbindungsname</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="103"/>
+        <source>Shown on the home screen</source>
+        <translation>Wird auf dem Startbildschirm angezeigt</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="115"/>
+        <source>Server address</source>
+        <translation>Serveradresse</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="116"/>
+        <source>host or host:port</source>
+        <translation>Host oder Host:Port</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="117"/>
+        <source>Port 5900 when none is given</source>
+        <translation>Port 5900, wenn keiner angegeben ist</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="127"/>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="149"/>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="133"/>
+        <source>Remember password</source>
+        <translation>Passwort speichern</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="140"/>
+        <source>The password is stored encrypted on this terminal.</source>
+        <translation>Das Passwort wird verschlüsselt auf diesem Terminal gespeichert.</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="141"/>
+        <source>The password is not stored; servers that ask for one refuse the session.</source>
+        <translation>Das Passwort wird nicht gespeichert; Server, die eines verlangen, lehnen die Sitzung ab.</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="157"/>
+        <source>Viewer window</source>
+        <translation>Viewer-Fenster</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="166"/>
+        <source>Full screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="167"/>
+        <source>The remote screen fills the whole display.</source>
+        <translation>Der entfernte Bildschirm füllt die ganze Anzeige.</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="176"/>
+        <source>Shrink to fit</source>
+        <translation>Verkleinern und einpassen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="177"/>
+        <source>Large remote screens are scaled down to the window instead of scrolled.</source>
+        <translation>Große entfernte Bildschirme werden auf das Fenster verkleinert statt gescrollt.</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="191"/>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="210"/>
+        <source>Window size</source>
+        <translation>Fenstergröße</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="196"/>
+        <source>Share of this terminal&apos;s screen taken by the viewer window, from its top left corner.</source>
+        <translation>Anteil des Bildschirms, den das Viewer-Fenster von der linken oberen Ecke aus einnimmt.</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="216"/>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>AdminConnectionPopup</name>
+    <message>
+        <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="19"/>
+        <source>Allow remote connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="21"/>
+        <source>Accept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="22"/>
+        <source>Reject</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="55"/>
+        <source>Request will be accepted automatically in %1 seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AdminLoginDialog</name>
     <message>
         <location filename="../qml/vorplex/AdminLoginDialog.qml" line="11"/>
@@ -574,6 +737,128 @@
     </message>
 </context>
 <context>
+    <name>CertificatesPage</name>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="42"/>
+        <source>Enter the password of the certificate file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="59"/>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="60"/>
+        <source>Certificate added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="66"/>
+        <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="75"/>
+        <source>Import a certificate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="76"/>
+        <source>Certificate files (.crt, .cer, .der, .pfx) on a USB drive. The certificate is trusted by this terminal and its sessions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="81"/>
+        <source>Certificate file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="85"/>
+        <source>No certificate files found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="86"/>
+        <source>Insert a USB drive with certificate files, then refresh the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="91"/>
+        <source>Refresh file list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="101"/>
+        <source>Password of the certificate file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="111"/>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="126"/>
+        <source>Installed certificates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="127"/>
+        <source>Authorities this terminal trusts in addition to the system&apos;s own.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="131"/>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="139"/>
+        <source>Show all certificates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="203"/>
+        <source>System certificate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="234"/>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="260"/>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="251"/>
+        <source>No certificates installed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="252"/>
+        <source>Import a certificate from a USB drive, or show the system&apos;s certificates too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="258"/>
+        <source>Remove certificate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="259"/>
+        <source>Remove %1? This terminal and its sessions will no longer trust the servers it vouches for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CertificatesStorage</name>
+    <message>
+        <location filename="../src/maintenance/CertificatesStorage.cpp" line="204"/>
+        <source>The file name %1 has no name before its extension.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CitrixProgressPopup</name>
     <message>
         <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="55"/>
@@ -626,7 +911,7 @@
     <message>
         <location filename="../qml/vorplex/ConnectionKinds.qml" line="16"/>
         <source>VNC</source>
-        <translation type="unfinished"></translation>
+        <translation>VNC</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionKinds.qml" line="17"/>
@@ -748,8 +1033,9 @@
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="30"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="204"/>
         <source>VNC</source>
-        <translation type="unfinished"></translation>
+        <translation>VNC</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="69"/>
@@ -773,7 +1059,7 @@
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="153"/>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="460"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="467"/>
         <source>Add connection</source>
         <translation>Verbindung hinzufügen</translation>
     </message>
@@ -783,65 +1069,126 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="214"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="221"/>
         <source>Add Microsoft Teams</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="413"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="420"/>
         <source>Start automatically</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="432"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="439"/>
         <source>Edit</source>
         <translation>Bearbeiten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="432"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="439"/>
         <source>Nothing to edit for this kind</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="440"/>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="511"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="447"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="518"/>
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="455"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="462"/>
         <source>No connections yet</source>
         <translation>Noch keine Verbindungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="456"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="463"/>
         <source>Add a remote desktop, a web site or an application. Each connection appears as a tile on the home screen.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="472"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="479"/>
         <source>Applications</source>
         <translation>Anwendungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="473"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="480"/>
         <source>Kinds of connection that can be added on this terminal.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="509"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="516"/>
         <source>Remove connection?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="510"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="517"/>
         <source>“%1” will be removed from this terminal, and its tile from the home screen.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="515"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="522"/>
         <source>“%1” removed.</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExportSettingsPage</name>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="33"/>
+        <source>The settings could not be saved: the drive cannot be written to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="36"/>
+        <source>Nothing was copied: the chosen settings do not exist on this terminal yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="39"/>
+        <source>%n group(s) of settings saved to %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="47"/>
+        <source>Choose what to copy to the USB drive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="52"/>
+        <source>Destination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="53"/>
+        <source>A new folder named after this terminal and the current time is created on the drive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="58"/>
+        <source>Choose folder to export settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="61"/>
+        <source>No removable drive found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="62"/>
+        <source>Insert a USB drive, then refresh the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="66"/>
+        <source>Refresh drive list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="73"/>
+        <source>Export</source>
+        <translation>Exportieren</translation>
     </message>
 </context>
 <context>
@@ -864,6 +1211,101 @@
     <message>
         <location filename="../qml/custom/NorbixUi/FormPage.qml" line="126"/>
         <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ImportSettingsPage</name>
+    <message numerus="yes">
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="33"/>
+        <source>%n group(s) of settings loaded.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="36"/>
+        <source>%n group(s) of settings loaded. Not in the saved set, so reset to their defaults: %1.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="45"/>
+        <source>Choose what to load. A chosen group that the saved set lacks is reset to its defaults.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="50"/>
+        <source>Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="51"/>
+        <source>Saved settings are folders named after the terminal they came from and the time they were saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="56"/>
+        <source>Choose folder to import settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="59"/>
+        <source>No saved settings found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="60"/>
+        <source>Insert a USB drive with exported settings, then refresh the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="64"/>
+        <source>Refresh folder list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="71"/>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="87"/>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="85"/>
+        <source>Import settings</source>
+        <translation>Einstellungen importieren</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="86"/>
+        <source>The chosen settings of this terminal are replaced by the saved ones.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocalUpdaterBackend</name>
+    <message>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="146"/>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="185"/>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="200"/>
+        <source>The update service sent an answer that cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="163"/>
+        <source>The update service refused the request (HTTP %1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="165"/>
+        <source>The update service did not answer in time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="167"/>
+        <source>The update service is not running.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -966,38 +1408,53 @@
 <context>
     <name>Main</name>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="58"/>
-        <location filename="../qml/vorplex/Main.qml" line="190"/>
+        <location filename="../qml/vorplex/Main.qml" line="63"/>
+        <location filename="../qml/vorplex/Main.qml" line="219"/>
         <source>Failed to connect</source>
         <translation>Verbindung fehlgeschlagen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="68"/>
+        <location filename="../qml/vorplex/Main.qml" line="73"/>
         <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="102"/>
+        <location filename="../qml/vorplex/Main.qml" line="107"/>
         <source>Connecting to the Citrix store…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="195"/>
+        <location filename="../qml/vorplex/Main.qml" line="111"/>
+        <source>Support desk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="111"/>
+        <source>Alex from IT support would like to see your screen to help with your ticket.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="176"/>
+        <source>Your request for help has been sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="224"/>
         <source>“%1” added.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="195"/>
+        <location filename="../qml/vorplex/Main.qml" line="224"/>
         <source>Changes to “%1” saved.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="205"/>
+        <location filename="../qml/vorplex/Main.qml" line="234"/>
         <source>Connection error</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="207"/>
+        <location filename="../qml/vorplex/Main.qml" line="236"/>
         <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1005,48 +1462,191 @@
 <context>
     <name>MainView</name>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="121"/>
+        <location filename="../qml/vorplex/MainView.qml" line="130"/>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="137"/>
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="148"/>
+        <location filename="../qml/vorplex/MainView.qml" line="165"/>
         <source>Connections</source>
         <translation>Verbindungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="160"/>
+        <location filename="../qml/vorplex/MainView.qml" line="177"/>
         <source>Show less</source>
         <translation>Weniger anzeigen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="160"/>
+        <location filename="../qml/vorplex/MainView.qml" line="177"/>
         <source>Show all (%1)</source>
         <translation>Alle anzeigen (%1)</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="191"/>
+        <location filename="../qml/vorplex/MainView.qml" line="208"/>
         <source>No connections yet</source>
         <translation>Noch keine Verbindungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="192"/>
+        <location filename="../qml/vorplex/MainView.qml" line="209"/>
         <source>Remote desktops and applications will appear here as tiles. An administrator adds them in Settings → Connections.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="196"/>
+        <location filename="../qml/vorplex/MainView.qml" line="213"/>
         <source>Open connection settings</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="222"/>
+        <location filename="../qml/vorplex/MainView.qml" line="245"/>
+        <source>An administrator has seen your request for help and will contact you.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="279"/>
         <source>Norbix %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="232"/>
+        <location filename="../qml/vorplex/MainView.qml" line="289"/>
         <source>Thin client terminal</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ManagementPage</name>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="20"/>
+        <source>Enter an address such as wss://server.example.com/api/v1/ws.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="28"/>
+        <source>Server settings saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="35"/>
+        <source>Use letters, digits and hyphens only (at most 63).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="40"/>
+        <source>Computer name set to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="46"/>
+        <source>Use at least 6 characters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="51"/>
+        <source>Remote assistance password set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="64"/>
+        <source>Managed by a server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="65"/>
+        <source>The management server can change settings, connections and certificates, and update or restart this terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="75"/>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="76"/>
+        <source>Not managed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="77"/>
+        <source>Connected to the management server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="78"/>
+        <source>Not connected; the terminal keeps trying</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="84"/>
+        <source>Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="85"/>
+        <source>Where the terminal registers and which account it belongs to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="90"/>
+        <source>Server address</source>
+        <translation>Serveradresse</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="100"/>
+        <source>Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="101"/>
+        <source>Organisation account on the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="108"/>
+        <source>Save server settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="115"/>
+        <source>Computer name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="116"/>
+        <source>The name of this terminal on the server and on the network. Leave it empty to use the name made from the network adapter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="122"/>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="129"/>
+        <source>Set name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="136"/>
+        <source>Remote assistance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="137"/>
+        <source>Password of this terminal&apos;s screen sharing, used when an administrator connects for support.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="143"/>
+        <source>New password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="151"/>
+        <source>Set password</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1432,6 +2032,64 @@
     </message>
 </context>
 <context>
+    <name>SettingsGroupsCard</name>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="10"/>
+        <source>Display settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="11"/>
+        <source>Keyboard and Mouse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="12"/>
+        <source>Language settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="13"/>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="14"/>
+        <source>Time settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="15"/>
+        <source>API settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="16"/>
+        <source>Admin password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="17"/>
+        <source>Wallpapers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="48"/>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="51"/>
+        <source>Clear all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="51"/>
+        <source>Select all</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <location filename="../qml/vorplex/SettingsView.qml" line="109"/>
@@ -1487,6 +2145,185 @@
     <message>
         <location filename="../qml/custom/NorbixUi/Toast.qml" line="76"/>
         <source>Dismiss</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="11"/>
+        <source>Contacting the update service…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="12"/>
+        <source>Update service unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="13"/>
+        <source>Ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="14"/>
+        <source>Checking for updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="15"/>
+        <source>Downloading update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="16"/>
+        <source>Installing update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="17"/>
+        <source>Update installed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="18"/>
+        <source>Update failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="41"/>
+        <source>The terminal is being reset to its factory settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="43"/>
+        <source>The update service is installing the package.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="54"/>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="58"/>
+        <source>Check now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="97"/>
+        <source>Installed version: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="134"/>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="144"/>
+        <source>Available updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="145"/>
+        <source>Versions the update service offers for this terminal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="160"/>
+        <source>System %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="160"/>
+        <source>Shell %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="182"/>
+        <source>Install</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="195"/>
+        <source>No updates available</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="195"/>
+        <source>No information about updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="196"/>
+        <source>This terminal runs the newest software the update service knows of.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="197"/>
+        <source>Available versions appear here while the update service is running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="208"/>
+        <source>Install updates automatically</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="209"/>
+        <source>A newer version of the shell is installed as soon as the update service offers it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="219"/>
+        <source>Install from a USB drive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="220"/>
+        <source>An update package (.deb) for terminals without access to the update server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="225"/>
+        <source>Update package</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="228"/>
+        <source>No update packages found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="229"/>
+        <source>Insert a USB drive with an update package, then refresh the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="233"/>
+        <source>Refresh package list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="244"/>
+        <source>Install package</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="258"/>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="272"/>
+        <source>Factory reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="273"/>
+        <source>Every setting and connection of this terminal is erased and the terminal restarts with its factory settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="274"/>
+        <source>Reset</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
