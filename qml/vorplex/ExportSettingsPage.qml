@@ -11,16 +11,16 @@ PageScaffold {
     property string resultKind: "info"
 
     function refreshFolders() {
-        var previous = folderBox.currentText;
-        folders = manager.listFolders();
-        var index = folders.indexOf(previous);
+        var previous = folderBox.currentIndex >= 0 ? folders[folderBox.currentIndex].path : "";
+        folders = manager.listFolders().map(function (path) { return { path: path, label: manager.folderLabel(path) }; });
+        var index = folders.findIndex(function (folder) { return folder.path === previous; });
         folderBox.currentIndex = index >= 0 ? index : (folders.length > 0 ? 0 : -1);
     }
 
     function exportSelected() {
         resultText = "";
         groupsCard.applyTo(manager);
-        manager.exportConfig(folderBox.currentText);
+        manager.exportConfig(folders[folderBox.currentIndex].path);
     }
 
     Component.onCompleted: refreshFolders()
@@ -57,6 +57,7 @@ PageScaffold {
             Layout.fillWidth: true
             label: qsTr("Choose folder to export settings")
             model: page.folders
+            textRole: "label"
             enabled: page.folders.length > 0
             placeholderText: qsTr("No removable drive found")
             hintText: page.folders.length === 0 ? qsTr("Insert a USB drive, then refresh the list.") : ""

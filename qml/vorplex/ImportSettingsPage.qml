@@ -11,16 +11,16 @@ PageScaffold {
     property string resultKind: "info"
 
     function refreshFolders() {
-        var previous = folderBox.currentText;
-        folders = manager.listFoldersToImport();
-        var index = folders.indexOf(previous);
+        var previous = folderBox.currentIndex >= 0 ? folders[folderBox.currentIndex].path : "";
+        folders = manager.listFoldersToImport().map(function (path) { return { path: path, label: manager.folderLabel(path) }; });
+        var index = folders.findIndex(function (folder) { return folder.path === previous; });
         folderBox.currentIndex = index >= 0 ? index : (folders.length > 0 ? 0 : -1);
     }
 
     function importSelected() {
         resultText = "";
         groupsCard.applyTo(manager);
-        manager.importConfig(folderBox.currentText);
+        manager.importConfig(folders[folderBox.currentIndex].path);
     }
 
     Component.onCompleted: refreshFolders()
@@ -55,6 +55,7 @@ PageScaffold {
             Layout.fillWidth: true
             label: qsTr("Choose folder to import settings")
             model: page.folders
+            textRole: "label"
             enabled: page.folders.length > 0
             placeholderText: qsTr("No saved settings found")
             hintText: page.folders.length === 0 ? qsTr("Insert a USB drive with exported settings, then refresh the list.") : ""

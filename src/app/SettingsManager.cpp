@@ -164,6 +164,12 @@ QStringList SettingsManager::listFoldersToImport()
     return sets;
 }
 
+QString SettingsManager::folderLabel(const QString& path) const
+{
+    const QString media = SystemPaths::resolve(QStringLiteral("/media")) + QLatin1Char('/');
+    return path.startsWith(media) ? path.mid(media.size()) : path;
+}
+
 void copyPath(const QString& source, const QString& destination)
 {
     const QDir dir(source);

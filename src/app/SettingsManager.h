@@ -30,6 +30,8 @@ public:
     Q_INVOKABLE QStringList listFolders();
     // The exported sets: directories directly inside a drive that hold at least one group.
     Q_INVOKABLE QStringList listFoldersToImport();
+    // What the screens show for one of those folders: its path below the removable-media folder.
+    Q_INVOKABLE QString folderLabel(const QString& path) const;
 
     static QString setFolderName(const QString& terminalId, const QDateTime& when);
 

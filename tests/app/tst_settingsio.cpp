@@ -72,6 +72,16 @@ private slots:
         delete m_sandbox;
     }
 
+    // The screens show drive folders without the machine's own media path in front.
+    void folderLabel()
+    {
+        SettingsManager manager;
+        QCOMPARE(manager.folderLabel(drive()), QStringLiteral("USB"));
+        QCOMPARE(manager.folderLabel(drive() + QStringLiteral("/norbix-1-01-01-2024-00-00-00")),
+                 QStringLiteral("USB/norbix-1-01-01-2024-00-00-00"));
+        QCOMPARE(manager.folderLabel(QStringLiteral("/elsewhere/USB")), QStringLiteral("/elsewhere/USB"));
+    }
+
     void setFolderName()
     {
         const QDateTime when(QDate(2024, 3, 7), QTime(9, 5, 1));
