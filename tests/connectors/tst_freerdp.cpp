@@ -93,16 +93,31 @@ private slots:
         const QString sam = sandbox.home() + "/sam";
         TestSandbox::writeFile(sam, "tester:::" + hash.readAllStandardOutput().trimmed() + ":::\n");
 
-        const quint16 port = freePort();
+        // The shadow server sometimes gives up at start on a loaded machine (it reports why);
+        // a second or third start on a fresh port is a fair retry, a server that never listens is not.
+        quint16 port = 0;
         QProcess server;
         server.setProcessChannelMode(QProcess::MergedChannels);
-        server.start("freerdp-shadow-cli", {QStringLiteral("/port:%1").arg(port), "/bind-address:127.0.0.1", "/sam-file:" + sam, "/sec:nla"});
-        QVERIFY(server.waitForStarted());
-        QVERIFY(QTest::qWaitFor([&] {
-            QTcpSocket probe;
-            probe.connectToHost(QHostAddress::LocalHost, port);
-            return probe.waitForConnected(200);
-        }, 15000));
+        QByteArray serverOutput;
+        bool listening = false;
+        for (int attempt = 0; attempt < 3 && !listening; ++attempt) {
+            port = freePort();
+            server.start("freerdp-shadow-cli", {QStringLiteral("/port:%1").arg(port), "/bind-address:127.0.0.1", "/sam-file:" + sam, "/sec:nla"});
+            QVERIFY(server.waitForStarted());
+            listening = QTest::qWaitFor([&] {
+                if (server.state() != QProcess::Running)
+                    return true;
+                QTcpSocket probe;
+                probe.connectToHost(QHostAddress::LocalHost, port);
+                return probe.waitForConnected(200);
+            }, 30000) && server.state() == QProcess::Running;
+            if (!listening) {
+                server.kill();
+                server.waitForFinished();
+                serverOutput += server.readAll();
+            }
+        }
+        QVERIFY2(listening, serverOutput.constData());
 
         const QString address = QStringLiteral("127.0.0.1:%1").arg(port);
         auto record = [&](const char* password) {
