@@ -1171,22 +1171,22 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="61"/>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="62"/>
         <source>No removable drive found</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="62"/>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="63"/>
         <source>Insert a USB drive, then refresh the list.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="66"/>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="67"/>
         <source>Refresh drive list</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="73"/>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="74"/>
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
@@ -1253,33 +1253,33 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="59"/>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="60"/>
         <source>No saved settings found</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="60"/>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="61"/>
         <source>Insert a USB drive with exported settings, then refresh the list.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="64"/>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="65"/>
         <source>Refresh folder list</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="71"/>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="87"/>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="72"/>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="88"/>
         <source>Import</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="85"/>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="86"/>
         <source>Import settings</source>
         <translation>Einstellungen importieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="86"/>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="87"/>
         <source>The chosen settings of this terminal are replaced by the saved ones.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1464,7 +1464,7 @@
     <message>
         <location filename="../qml/vorplex/MainView.qml" line="130"/>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/MainView.qml" line="137"/>
@@ -1494,27 +1494,27 @@
     <message>
         <location filename="../qml/vorplex/MainView.qml" line="209"/>
         <source>Remote desktops and applications will appear here as tiles. An administrator adds them in Settings → Connections.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernte Desktops und Anwendungen erscheinen hier als Kacheln. Ein Administrator fügt sie unter Einstellungen → Verbindungen hinzu.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/MainView.qml" line="213"/>
         <source>Open connection settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungseinstellungen öffnen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/MainView.qml" line="245"/>
         <source>An administrator has seen your request for help and will contact you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Administrator hat Ihre Bitte um Hilfe gesehen und meldet sich bei Ihnen.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/MainView.qml" line="279"/>
         <source>Norbix %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Norbix %1</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/MainView.qml" line="289"/>
         <source>Thin client terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>Thin-Client-Terminal</translation>
     </message>
 </context>
 <context>
@@ -1773,7 +1773,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="9"/>
         <source>Connectivity</source>
-        <translation type="unfinished"></translation>
+        <translation>Konnektivität</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="11"/>
@@ -1783,7 +1783,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="12"/>
         <source>Remote sessions that appear as tiles on the home screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernte Sitzungen, die als Kacheln auf dem Startbildschirm erscheinen.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="13"/>
@@ -1793,27 +1793,27 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="14"/>
         <source>Ethernet addressing, DNS and proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ethernet-Adressen, DNS und Proxy.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="15"/>
         <source>Wi-Fi</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="16"/>
         <source>Wireless networks and saved credentials.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drahtlose Netzwerke und gespeicherte Zugangsdaten.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="17"/>
         <source>802.1X authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>802.1X-Authentifizierung</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="18"/>
         <source>Port-based network access control for wired and wireless networks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Portbasierte Zugangskontrolle für kabelgebundene und drahtlose Netzwerke.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="19"/>
@@ -1823,12 +1823,12 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="20"/>
         <source>The name this terminal uses on the network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name, den dieses Terminal im Netzwerk verwendet.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="24"/>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="26"/>
@@ -1838,7 +1838,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="27"/>
         <source>Resolution, arrangement and orientation of connected monitors.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung, Anordnung und Ausrichtung der angeschlossenen Monitore.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="28"/>
@@ -1848,7 +1848,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="29"/>
         <source>Screen blanking and standby timing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmabschaltung und Standby-Zeiten.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="30"/>
@@ -1858,7 +1858,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="31"/>
         <source>Time zone, clock format and time servers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitzone, Uhrzeitformat und Zeitserver.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="32"/>
@@ -1868,7 +1868,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="33"/>
         <source>Output and input devices and volume.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus- und Eingabegeräte und Lautstärke.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="34"/>
@@ -1878,7 +1878,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="35"/>
         <source>Keyboard layout and key repeat.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastaturlayout und Tastenwiederholung.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="36"/>
@@ -1888,7 +1888,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="37"/>
         <source>Pointer speed, button order and double-click timing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigergeschwindigkeit, Tastenbelegung und Doppelklickgeschwindigkeit.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="38"/>
@@ -1898,7 +1898,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="39"/>
         <source>Display language and regional formats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigesprache und regionale Formate.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="40"/>
@@ -1908,12 +1908,12 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="41"/>
         <source>Background image of the home screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundbild des Startbildschirms.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="45"/>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Geräte</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="47"/>
@@ -1923,7 +1923,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="48"/>
         <source>Local and network printers available to sessions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale und Netzwerkdrucker für die Sitzungen.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="49"/>
@@ -1933,12 +1933,12 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="50"/>
         <source>Access to USB drives on this terminal and in sessions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff auf USB-Laufwerke an diesem Terminal und in Sitzungen.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="54"/>
         <source>Security</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherheit</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="56"/>
@@ -1948,7 +1948,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="57"/>
         <source>Trusted certificate authorities and client certificates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertrauenswürdige Zertifizierungsstellen und Client-Zertifikate.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="58"/>
@@ -1958,12 +1958,12 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="60"/>
         <source>The password that protects the advanced settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort, das die erweiterten Einstellungen schützt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="64"/>
         <source>Management</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwaltung</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="66"/>
@@ -1973,7 +1973,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="67"/>
         <source>Central management of this terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zentrale Verwaltung dieses Terminals.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="68"/>
@@ -1983,7 +1983,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="69"/>
         <source>Software updates for this terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Software-Updates für dieses Terminal.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="70"/>
@@ -1993,7 +1993,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="71"/>
         <source>Save this terminal&apos;s configuration to a USB drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Konfiguration dieses Terminals auf einem USB-Laufwerk speichern.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="72"/>
@@ -2003,12 +2003,12 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="73"/>
         <source>Load a configuration from a USB drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Konfiguration von einem USB-Laufwerk laden.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="77"/>
         <source>Support</source>
-        <translation type="unfinished"></translation>
+        <translation>Support</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="79"/>
@@ -2018,7 +2018,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="80"/>
         <source>Diagnostic messages of this session and export for support.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnosemeldungen dieser Sitzung und Export für den Support.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="81"/>
@@ -2028,7 +2028,7 @@
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="82"/>
         <source>Hardware, software version and network details.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hardware, Softwareversion und Netzwerkdetails.</translation>
     </message>
 </context>
 <context>
