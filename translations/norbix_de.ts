@@ -637,22 +637,22 @@
     <message>
         <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="19"/>
         <source>Allow remote connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Fernverbindung erlauben</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="21"/>
         <source>Accept</source>
-        <translation type="unfinished"></translation>
+        <translation>Annehmen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="22"/>
         <source>Reject</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablehnen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="55"/>
         <source>Request will be accepted automatically in %1 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anfrage wird in %1 Sekunden automatisch angenommen</translation>
     </message>
 </context>
 <context>
@@ -723,7 +723,7 @@
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="58"/>
         <source>New password</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Passwort</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="67"/>
@@ -796,7 +796,7 @@
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="111"/>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="126"/>
@@ -1135,12 +1135,12 @@
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="33"/>
         <source>The settings could not be saved: the drive cannot be written to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen konnten nicht gespeichert werden: Das Laufwerk ist nicht beschreibbar.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="36"/>
         <source>Nothing was copied: the chosen settings do not exist on this terminal yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wurde kopiert: Die gewählten Einstellungen gibt es auf diesem Terminal noch nicht.</translation>
     </message>
     <message numerus="yes">
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="39"/>
@@ -1153,37 +1153,37 @@
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="47"/>
         <source>Choose what to copy to the USB drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie, was auf das USB-Laufwerk kopiert wird.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="52"/>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="53"/>
         <source>A new folder named after this terminal and the current time is created on the drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Laufwerk wird ein neuer Ordner mit dem Namen dieses Terminals und der aktuellen Uhrzeit angelegt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="58"/>
         <source>Choose folder to export settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für den Export wählen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="62"/>
         <source>No removable drive found</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Wechseldatenträger gefunden</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="63"/>
         <source>Insert a USB drive, then refresh the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stecken Sie ein USB-Laufwerk ein und aktualisieren Sie die Liste.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="67"/>
         <source>Refresh drive list</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerksliste aktualisieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="74"/>
@@ -1235,43 +1235,43 @@
     <message>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="45"/>
         <source>Choose what to load. A chosen group that the saved set lacks is reset to its defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie, was geladen wird. Eine gewählte Gruppe, die im gespeicherten Satz fehlt, wird auf die Standardwerte zurückgesetzt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="50"/>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="51"/>
         <source>Saved settings are folders named after the terminal they came from and the time they were saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Einstellungen sind Ordner, benannt nach ihrem Terminal und dem Zeitpunkt der Speicherung.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="56"/>
         <source>Choose folder to import settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für den Import wählen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="60"/>
         <source>No saved settings found</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine gespeicherten Einstellungen gefunden</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="61"/>
         <source>Insert a USB drive with exported settings, then refresh the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stecken Sie ein USB-Laufwerk mit exportierten Einstellungen ein und aktualisieren Sie die Liste.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="65"/>
         <source>Refresh folder list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordnerliste aktualisieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="72"/>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="88"/>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="86"/>
@@ -1281,7 +1281,7 @@
     <message>
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="87"/>
         <source>The chosen settings of this terminal are replaced by the saved ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gewählten Einstellungen dieses Terminals werden durch die gespeicherten ersetzt.</translation>
     </message>
 </context>
 <context>
@@ -1362,17 +1362,17 @@
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="68"/>
         <source>No removable drive found</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Wechseldatenträger gefunden</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="69"/>
         <source>Insert a USB drive, then refresh the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stecken Sie ein USB-Laufwerk ein und aktualisieren Sie die Liste.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="73"/>
         <source>Refresh drive list</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerksliste aktualisieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="81"/>
@@ -1522,42 +1522,42 @@
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="20"/>
         <source>Enter an address such as wss://server.example.com/api/v1/ws.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie eine Adresse wie wss://server.example.com/api/v1/ws ein.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="28"/>
         <source>Server settings saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Servereinstellungen gespeichert.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="35"/>
         <source>Use letters, digits and hyphens only (at most 63).</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Buchstaben, Ziffern und Bindestriche (höchstens 63).</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="40"/>
         <source>Computer name set to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Computername auf %1 gesetzt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="46"/>
         <source>Use at least 6 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestens 6 Zeichen verwenden.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="51"/>
         <source>Remote assistance password set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort für die Fernwartung gesetzt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="64"/>
         <source>Managed by a server</source>
-        <translation type="unfinished"></translation>
+        <translation>Von einem Server verwaltet</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="65"/>
         <source>The management server can change settings, connections and certificates, and update or restart this terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Verwaltungsserver kann Einstellungen, Verbindungen und Zertifikate ändern sowie dieses Terminal aktualisieren oder neu starten.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="75"/>
@@ -1567,27 +1567,27 @@
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="76"/>
         <source>Not managed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verwaltet</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="77"/>
         <source>Connected to the management server</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit dem Verwaltungsserver verbunden</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="78"/>
         <source>Not connected; the terminal keeps trying</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verbunden; das Terminal versucht es weiter</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="84"/>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="85"/>
         <source>Where the terminal registers and which account it belongs to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo sich das Terminal anmeldet und zu welchem Konto es gehört.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="90"/>
@@ -1597,27 +1597,27 @@
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="100"/>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="101"/>
         <source>Organisation account on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Organisationskonto auf dem Server</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="108"/>
         <source>Save server settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Servereinstellungen speichern</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="115"/>
         <source>Computer name</source>
-        <translation type="unfinished"></translation>
+        <translation>Computername</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="116"/>
         <source>The name of this terminal on the server and on the network. Leave it empty to use the name made from the network adapter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name dieses Terminals auf dem Server und im Netzwerk. Leer lassen, um den aus dem Netzwerkadapter gebildeten Namen zu verwenden.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="122"/>
@@ -1627,27 +1627,27 @@
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="129"/>
         <source>Set name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name setzen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="136"/>
         <source>Remote assistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Fernwartung</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="137"/>
         <source>Password of this terminal&apos;s screen sharing, used when an administrator connects for support.</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort der Bildschirmfreigabe dieses Terminals, wenn sich ein Administrator zur Unterstützung verbindet.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="143"/>
         <source>New password</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Passwort</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ManagementPage.qml" line="151"/>
         <source>Set password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort setzen</translation>
     </message>
 </context>
 <context>
@@ -2036,17 +2036,17 @@
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="10"/>
         <source>Display settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigeeinstellungen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="11"/>
         <source>Keyboard and Mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastatur und Maus</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="12"/>
         <source>Language settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Spracheinstellungen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="13"/>
@@ -2056,22 +2056,22 @@
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="14"/>
         <source>Time settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiteinstellungen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="15"/>
         <source>API settings</source>
-        <translation type="unfinished"></translation>
+        <translation>API-Einstellungen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="16"/>
         <source>Admin password</source>
-        <translation type="unfinished"></translation>
+        <translation>Administratorpasswort</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="17"/>
         <source>Wallpapers</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundbilder</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="48"/>
@@ -2081,12 +2081,12 @@
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="51"/>
         <source>Clear all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle abwählen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="51"/>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle auswählen</translation>
     </message>
 </context>
 <context>
