@@ -342,6 +342,18 @@ void APIManager::onWatchdogTick()
     m_watchdog->stop();
 }
 
+void APIManager::shutdown()
+{
+    if (m_heartbeatThread) {
+        m_heartbeatThread->requestInterruption();
+        m_heartbeatThread->wait(5000);
+    }
+    if (m_collectorThread) {
+        m_collectorThread->quit();
+        m_collectorThread->wait(5000);
+    }
+}
+
 bool APIManager::isConnected() const
 {
     return m_socket.isValid();

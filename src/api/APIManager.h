@@ -73,6 +73,8 @@ public:
 
     // Called once by start-up: identity, heartbeat, session, watchdog, collector.
     void init(QString uuid, QString system);
+    // Stops the heartbeat and the settings collector before the application goes away.
+    void shutdown();
     void updateConnections(const QList<Connection>& connections);
     void updateSettings();
     void sendData(const QString& action, const QJsonObject& data);

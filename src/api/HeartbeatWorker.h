@@ -13,6 +13,8 @@ class HeartbeatWorker : public QObject {
     Q_OBJECT
 public:
     static constexpr const char* kServiceUrl = "http://127.0.0.1:12547/";
+    // How often a pause or a pending request looks whether the thread is to stop.
+    static constexpr int kStopCheckMs = 50;
 
     explicit HeartbeatWorker(const QString& serviceUrl = QLatin1String(kServiceUrl), int pauseMs = 2000);
     ~HeartbeatWorker() override;

@@ -143,5 +143,7 @@ int runShell(int argc, char* argv[])
     else if (!options.screenshotFile.isEmpty())
         return 3; // nothing to grab
 
-    return app.exec();
+    const int status = app.exec();
+    api->shutdown();
+    return status;
 }

@@ -75,6 +75,18 @@ private slots:
             QCOMPARE(request, QStringLiteral("GET /health HTTP/1.1"));
     }
 
+    // A closing shell does not wait for a service that accepted the request and never answers.
+    void stopsWhileTheServiceHangs()
+    {
+        QTcpServer silent;
+        QVERIFY(silent.listen(QHostAddress::LocalHost));
+        Running heartbeat(silent.serverPort(), 2000);
+        QTRY_VERIFY_WITH_TIMEOUT(silent.hasPendingConnections(), 20000);
+        heartbeat.thread.requestInterruption();
+        QVERIFY(heartbeat.thread.wait(20000));
+        QCOMPARE(heartbeat.worker->rounds(), 1);
+    }
+
     void keepsGoingWhileTheServiceIsDown()
     {
         const quint16 port = freePort();
