@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QObject>
 #include <QPoint>
+#include <QRect>
 
 struct KeyEvent {
     int key = 0;       // toolkit key code
@@ -27,6 +28,9 @@ public:
     virtual void sendKey(KeyEvent event) = 0;
     virtual void terminate() = 0;
     virtual void resize() = 0;
+    // The part of the frame changed since the last one shown; empty when not known, and then the
+    // whole frame is repainted.
+    virtual QRect pendingDamage() const { return {}; }
 
 signals:
     void imageReady(QImage image);

@@ -103,35 +103,15 @@ bool VNCConnector::initConnection(const Connection& connection)
     m_password = connection.get(QStringLiteral("password")).toLocal8Bit();
 
     cl = rfbGetClient(8, 3, 4);
-    const int depth = QImage(1, 1, QImage::Format_RGB32).depth();
-    if (depth == 8) {
-        cl->format.depth = 8;
-        cl->format.bitsPerPixel = 8;
-        cl->format.redShift = 0;
-        cl->format.greenShift = 3;
-        cl->format.blueShift = 6;
-        cl->format.redMax = 7;
-        cl->format.greenMax = 7;
-        cl->format.blueMax = 3;
-    } else if (depth == 16) {
-        cl->format.depth = 16;
-        cl->format.bitsPerPixel = 16;
-        cl->format.redShift = 11;
-        cl->format.greenShift = 5;
-        cl->format.blueShift = 0;
-        cl->format.redMax = 31;
-        cl->format.greenMax = 63;
-        cl->format.blueMax = 31;
-    } else {
-        cl->format.depth = depth;
-        cl->format.bitsPerPixel = 32;
-        cl->format.redShift = 16;
-        cl->format.greenShift = 8;
-        cl->format.blueShift = 0;
-        cl->format.redMax = 255;
-        cl->format.greenMax = 255;
-        cl->format.blueMax = 255;
-    }
+    const VncInput::PixelFormat format = VncInput::pixelFormatFor(QImage(1, 1, QImage::Format_RGB32).depth());
+    cl->format.depth = format.depth;
+    cl->format.bitsPerPixel = format.bitsPerPixel;
+    cl->format.redShift = format.redShift;
+    cl->format.greenShift = format.greenShift;
+    cl->format.blueShift = format.blueShift;
+    cl->format.redMax = format.redMax;
+    cl->format.greenMax = format.greenMax;
+    cl->format.blueMax = format.blueMax;
     SetFormatAndEncodings(cl);
 
     cl->MallocFrameBuffer = &VNCConnector::mallocFrameBuffer;

@@ -53,7 +53,7 @@ public:
 
     // The part of the framebuffer changed since the last frame was shown; while imageReady is
     // being delivered, the part that frame changed.
-    QRect pendingDamage() const { return m_damage; }
+    QRect pendingDamage() const override { return m_damage; }
 
 signals:
     // imageReady(QImage) comes from the interface.

@@ -2,7 +2,6 @@
 
 #include "CustomGraphicsScene.h"
 #include "RemoteConnectionInterface.h"
-#include "VNCConnector.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -78,8 +77,8 @@ void ViewDialog::imageReady(QImage image)
         && frameSize == m_pixmap.size();
     QRect changed = m_pixmap.rect();
     if (sameBuffer) {
-        if (const auto* vnc = qobject_cast<VNCConnector*>(m_interface); vnc && !vnc->pendingDamage().isEmpty())
-            changed = vnc->pendingDamage() & m_pixmap.rect();
+        if (const QRect damage = m_interface->pendingDamage(); !damage.isEmpty())
+            changed = damage & m_pixmap.rect();
     } else {
         if (m_shrink)
             image = image.scaled(ui->graphicsView->width(), ui->graphicsView->height(), Qt::KeepAspectRatio, Qt::FastTransformation);

@@ -60,4 +60,13 @@ QRect windowGeometry(const QSize& screen, int percentage)
     return QRect(0, 0, int(float(screen.width()) * share), int(float(screen.height()) * share));
 }
 
+PixelFormat pixelFormatFor(int imageDepth)
+{
+    if (imageDepth == 8)
+        return {8, 8, 0, 3, 6, 7, 7, 3};
+    if (imageDepth == 16)
+        return {16, 16, 11, 5, 0, 31, 63, 31};
+    return {imageDepth, 32, 16, 8, 0, 255, 255, 255};
+}
+
 } // namespace VncInput

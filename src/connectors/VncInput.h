@@ -26,6 +26,15 @@ HostPort splitAddress(const QString& address);
 // arguments of nmap).
 QString reachabilityCommand(const HostPort& target);
 
+// The pixel format asked of the server, by the depth of the toolkit's 32-bit RGB image.
+struct PixelFormat {
+    int depth;
+    int bitsPerPixel;
+    int redShift, greenShift, blueShift;
+    int redMax, greenMax, blueMax;
+};
+PixelFormat pixelFormatFor(int imageDepth);
+
 // Window geometry: percent of the primary screen at 0,0, single precision, cut toward zero.
 QRect windowGeometry(const QSize& screen, int percentage);
 

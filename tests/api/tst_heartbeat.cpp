@@ -1,3 +1,4 @@
+#include "FreePort.h"
 #include "HeartbeatWorker.h"
 
 #include <QTcpServer>
@@ -27,13 +28,6 @@ class tst_Heartbeat : public QObject {
             });
         }
     };
-
-    static quint16 freePort()
-    {
-        QTcpServer probe;
-        probe.listen(QHostAddress::LocalHost);
-        return probe.serverPort();
-    }
 
     struct Running {
         QThread thread;
@@ -89,7 +83,7 @@ private slots:
 
     void keepsGoingWhileTheServiceIsDown()
     {
-        const quint16 port = freePort();
+        const quint16 port = freeLocalPort();
         Running heartbeat(port, 50);
         QTRY_VERIFY_WITH_TIMEOUT(heartbeat.worker->rounds() >= 3, 20000); // refused, and again
         Service service;

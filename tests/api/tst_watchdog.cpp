@@ -1,7 +1,7 @@
 #include "AgentHarness.h"
 #include "FakeCommandRunner.h"
+#include "FreePort.h"
 
-#include <QTcpServer>
 #include <QtTest>
 
 // The session watchdog acts on one tick only: the first one at which managed mode is on.
@@ -24,12 +24,7 @@ private slots:
     {
         FakeCommandRunner runner;
         TestSandbox sandbox;
-        quint16 closedPort = 0;
-        {
-            QTcpServer probe;
-            QVERIFY(probe.listen(QHostAddress::LocalHost));
-            closedPort = probe.serverPort();
-        }
+        const quint16 closedPort = freeLocalPort();
         AgentHarness::setManaged(sandbox, false, QStringLiteral("ws://127.0.0.1:%1/api/v1/ws").arg(closedPort));
         g_previous = qInstallMessageHandler(collect);
 

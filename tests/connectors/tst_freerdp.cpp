@@ -1,3 +1,4 @@
+#include "FreePort.h"
 #include "RDPConnector.h"
 #include "TestSandbox.h"
 
@@ -6,7 +7,7 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTcpServer>
+#include <QTcpSocket>
 #include <QtTest>
 
 // The RDP path with the real FreeRDP client (through the launcher beside the executable), under
@@ -38,13 +39,6 @@ void clearClientOutput()
 class tst_FreeRdp : public QObject {
     Q_OBJECT
 
-    static quint16 freePort()
-    {
-        QTcpServer server;
-        server.listen(QHostAddress::LocalHost, 0);
-        return server.serverPort();
-    }
-
     // Starts a session and waits for its exit code on the main thread.
     static int sessionExitCode(const Connection& record, int timeoutMs)
     {
@@ -75,7 +69,7 @@ private slots:
     void closedPortIsHostNotFound()
     {
         TestSandbox sandbox;
-        const QString address = QStringLiteral("127.0.0.1:%1").arg(freePort());
+        const QString address = QStringLiteral("127.0.0.1:%1").arg(freeLocalPort());
         const int code = sessionExitCode(Connection(QJsonObject{{"type", 3}, {"address", address}}), 90000);
         QCOMPARE(code, 147);
         QCOMPARE(RDPConnector::messageForExitCode(code), QStringLiteral("Host not found"));
@@ -101,7 +95,7 @@ private slots:
         QByteArray serverOutput;
         bool listening = false;
         for (int attempt = 0; attempt < 3 && !listening; ++attempt) {
-            port = freePort();
+            port = freeLocalPort();
             server.start("freerdp-shadow-cli", {QStringLiteral("/port:%1").arg(port), "/bind-address:127.0.0.1", "/sam-file:" + sam, "/sec:nla"});
             QVERIFY(server.waitForStarted());
             listening = QTest::qWaitFor([&] {

@@ -122,6 +122,23 @@ private slots:
         QVERIFY(!VNCConnector::getInstance()->initConnection(Connection(QJsonObject{{"type", 1}, {"address", "other.example"}})));
     }
 
+    void pixelFormats_data()
+    {
+        QTest::addColumn<int>("imageDepth");
+        QTest::addColumn<QList<int>>("format"); // depth, bpp, shifts r/g/b, maxima r/g/b
+        QTest::newRow("8 bits") << 8 << QList<int>{8, 8, 0, 3, 6, 7, 7, 3};
+        QTest::newRow("16 bits") << 16 << QList<int>{16, 16, 11, 5, 0, 31, 63, 31};
+        QTest::newRow("32 bits, the terminal's case") << 32 << QList<int>{32, 32, 16, 8, 0, 255, 255, 255};
+        QTest::newRow("24 bits keeps its depth") << 24 << QList<int>{24, 32, 16, 8, 0, 255, 255, 255};
+    }
+    void pixelFormats()
+    {
+        QFETCH(int, imageDepth);
+        QFETCH(QList<int>, format);
+        const VncInput::PixelFormat f = VncInput::pixelFormatFor(imageDepth);
+        QCOMPARE((QList<int>{f.depth, f.bitsPerPixel, f.redShift, f.greenShift, f.blueShift, f.redMax, f.greenMax, f.blueMax}), format);
+    }
+
     void geometry_data()
     {
         QTest::addColumn<QSize>("screen");

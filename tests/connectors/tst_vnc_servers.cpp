@@ -1,7 +1,8 @@
 #include "Connection.h"
+#include "FreePort.h"
 #include "TestSandbox.h"
-#include "VNCConnector.h"
 #include "ViewDialog.h"
+#include "VNCConnector.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -20,13 +21,6 @@
 // The viewer against real servers on 127.0.0.1, under the X server this test runs in: the project's
 // own test server (known pattern, password, records input) and x11vnc serving a second X server.
 namespace {
-
-quint16 freePort()
-{
-    QTcpServer server;
-    server.listen(QHostAddress::LocalHost, 0);
-    return server.serverPort();
-}
 
 // The test server, talked to through its standard input and output.
 class TestServer {
@@ -220,7 +214,7 @@ private slots:
         QTest::newRow("trailing colon") << "127.0.0.1:";
         QTest::newRow("leading colon") << ":5900";
         QTest::newRow("not a port") << "127.0.0.1:notaport";
-        QTest::newRow("closed port") << QStringLiteral("127.0.0.1:%1").arg(freePort());
+        QTest::newRow("closed port") << QStringLiteral("127.0.0.1:%1").arg(freeLocalPort());
     }
     void malformedAddresses()
     {
@@ -233,7 +227,7 @@ private slots:
     void wrongPassword()
     {
         TestServer server;
-        const quint16 port = freePort();
+        const quint16 port = freeLocalPort();
         QVERIFY(server.start({QStringLiteral("--password"), QStringLiteral("secret"), QStringLiteral("--port"), QString::number(port)}));
         const int before = viewerCount();
         QVERIFY(!VNCConnector::getInstance()->initConnection(vncRecord(QStringLiteral("127.0.0.1:%1").arg(port), "wrong", 100)));
@@ -259,7 +253,7 @@ private slots:
     void session()
     {
         TestServer server;
-        const quint16 port = freePort();
+        const quint16 port = freeLocalPort();
         QVERIFY(server.start({QStringLiteral("--password"), QStringLiteral("secret"), QStringLiteral("--port"), QString::number(port)}));
 
         ViewDialog* viewer = nullptr;
@@ -379,7 +373,7 @@ private slots:
         XFreeGC(x, gc);
         XCloseDisplay(x);
 
-        const quint16 port = freePort();
+        const quint16 port = freeLocalPort();
         QProcess vnc;
         vnc.setProcessChannelMode(QProcess::MergedChannels);
         vnc.start(QStringLiteral("x11vnc"), {QStringLiteral("-display"), display.name(), QStringLiteral("-rfbport"), QString::number(port),

@@ -1,3 +1,4 @@
+#include "FreePort.h"
 #include "LocalUpdaterBackend.h"
 #include "TestSandbox.h"
 #include "Updater.h"
@@ -11,7 +12,6 @@
 #include <QProcess>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTcpServer>
 #include <QtTest>
 
 namespace {
@@ -54,9 +54,7 @@ private:
 // A port on which nothing listens.
 QUrl deadService()
 {
-    QTcpServer probe;
-    probe.listen(QHostAddress::LocalHost);
-    return QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(probe.serverPort()));
+    return QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(freeLocalPort()));
 }
 
 using Version = LocalUpdaterBackend::Version;

@@ -21,6 +21,24 @@ void collect(QtMsgType type, const QMessageLogContext& context, const QString& m
         g_messages << message;
     g_previous(type, context, message);
 }
+// The VNC form, adding (index -1) or editing record index, with its engine set up as the shell does.
+QObject* openVncForm(QQmlEngine& engine, int index)
+{
+    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/vorplex/AddVNCConnection.qml")));
+    QObject* form = component.beginCreate(engine.rootContext());
+    if (!form) {
+        qWarning().noquote() << component.errorString();
+        return nullptr;
+    }
+    form->setProperty("connectionIndex", index);
+    component.completeCreate();
+    return form;
+}
+
+QObject* child(QObject* form, const char* name)
+{
+    return form->findChild<QObject*>(QLatin1String(name));
+}
 } // namespace
 
 // Every screen and widget compiled into the shell loads on its own without a single QML warning.
@@ -100,9 +118,8 @@ private slots:
         TestSandbox sandbox;
         QQmlApplicationEngine engine;
         engine.addImportPath(QStringLiteral("qrc:/custom"));
-        QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/vorplex/AddVNCConnection.qml")));
-        QScopedPointer<QObject> form(component.create());
-        QVERIFY2(form, qPrintable(component.errorString()));
+        QScopedPointer<QObject> form(openVncForm(engine, -1));
+        QVERIFY(form);
         QVariant error;
         QVERIFY(QMetaObject::invokeMethod(form.data(), "addressError", Q_RETURN_ARG(QVariant, error), Q_ARG(QVariant, address)));
         QCOMPARE(error.toString().isEmpty(), accepted);
@@ -114,18 +131,16 @@ private slots:
         TestSandbox sandbox;
         QQmlApplicationEngine engine;
         engine.addImportPath(QStringLiteral("qrc:/custom"));
-        QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/vorplex/AddVNCConnection.qml")));
-        QScopedPointer<QObject> form(component.create());
-        QVERIFY2(form, qPrintable(component.errorString()));
-        auto child = [&](const char* name) { return form->findChild<QObject*>(QLatin1String(name)); };
-        QVERIFY(child("rememberBox")->property("checked").toBool()); // kept by default: the viewer cannot ask later
+        QScopedPointer<QObject> form(openVncForm(engine, -1));
+        QVERIFY(form);
+        QVERIFY(child(form.data(), "rememberBox")->property("checked").toBool()); // kept by default: the viewer cannot ask later
 
-        child("nameField")->setProperty("text", "Lab");
-        child("addressField")->setProperty("text", " lab.example:5901 ");
-        child("passwordField")->setProperty("text", "s3cret");
-        child("fullscreenRow")->setProperty("checked", true);
-        child("shrinkRow")->setProperty("checked", true);
-        child("sizeSlider")->setProperty("value", 50);
+        child(form.data(), "nameField")->setProperty("text", "Lab");
+        child(form.data(), "addressField")->setProperty("text", " lab.example:5901 ");
+        child(form.data(), "passwordField")->setProperty("text", "s3cret");
+        child(form.data(), "fullscreenRow")->setProperty("checked", true);
+        child(form.data(), "shrinkRow")->setProperty("checked", true);
+        child(form.data(), "sizeSlider")->setProperty("value", 50);
         QVERIFY(QMetaObject::invokeMethod(form.data(), "submitted"));
 
         const QJsonArray records = QJsonDocument::fromJson(TestSandbox::readFile(sandbox.dataFile("connections.json"))).array();
@@ -138,29 +153,24 @@ private slots:
         QVERIFY(!record.contains("shrink")); // adding leaves it out
         QVERIFY(record.value("password").toString().startsWith("e:"));
 
-        QQmlComponent editComponent(&engine, QUrl(QStringLiteral("qrc:/vorplex/AddVNCConnection.qml")));
-        QScopedPointer<QObject> edit(editComponent.beginCreate(engine.rootContext()));
-        edit->setProperty("connectionIndex", 0);
-        editComponent.completeCreate();
-        auto editChild = [&](const char* name) { return edit->findChild<QObject*>(QLatin1String(name)); };
-        QCOMPARE(editChild("addressField")->property("text").toString(), QStringLiteral("lab.example:5901"));
-        QCOMPARE(editChild("passwordField")->property("text").toString(), QStringLiteral("s3cret"));
-        QCOMPARE(editChild("sizeSlider")->property("value").toInt(), 50);
-        editChild("rememberBox")->setProperty("checked", false);
-        editChild("shrinkRow")->setProperty("checked", true);
+        QScopedPointer<QObject> edit(openVncForm(engine, 0));
+        QVERIFY(edit);
+        QCOMPARE(child(edit.data(), "addressField")->property("text").toString(), QStringLiteral("lab.example:5901"));
+        QCOMPARE(child(edit.data(), "passwordField")->property("text").toString(), QStringLiteral("s3cret"));
+        QCOMPARE(child(edit.data(), "sizeSlider")->property("value").toInt(), 50);
+        child(edit.data(), "rememberBox")->setProperty("checked", false);
+        child(edit.data(), "shrinkRow")->setProperty("checked", true);
         QVERIFY(QMetaObject::invokeMethod(edit.data(), "submitted"));
         const QJsonObject edited =
             QJsonDocument::fromJson(TestSandbox::readFile(sandbox.dataFile("connections.json"))).array().at(0).toObject();
         QVERIFY(edited.value("shrink").toBool());
 
         // Not remembered any more: the stored password is the empty one, and the form shows it so.
-        QQmlComponent againComponent(&engine, QUrl(QStringLiteral("qrc:/vorplex/AddVNCConnection.qml")));
-        QScopedPointer<QObject> again(againComponent.beginCreate(engine.rootContext()));
-        again->setProperty("connectionIndex", 0);
-        againComponent.completeCreate();
-        QCOMPARE(again->findChild<QObject*>("passwordField")->property("text").toString(), QString());
-        QVERIFY(!again->findChild<QObject*>("rememberBox")->property("checked").toBool());
-        QVERIFY(again->findChild<QObject*>("shrinkRow")->property("checked").toBool());
+        QScopedPointer<QObject> again(openVncForm(engine, 0));
+        QVERIFY(again);
+        QCOMPARE(child(again.data(), "passwordField")->property("text").toString(), QString());
+        QVERIFY(!child(again.data(), "rememberBox")->property("checked").toBool());
+        QVERIFY(child(again.data(), "shrinkRow")->property("checked").toBool());
     }
 };
 
