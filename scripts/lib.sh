@@ -9,7 +9,7 @@ NORBIX_PACKAGES=(
     qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev libqt5websockets5-dev qttools5-dev qttools5-dev-tools
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-templates2
     qml-module-qtquick-layouts qml-module-qtqml-models2 qml-module-qtquick-shapes
-    libssl-dev openssl libvncserver-dev libxdamage-dev
+    libssl-dev openssl libvncserver-dev libxdamage-dev libxcb-shm0-dev
     xvfb xauth x11-xserver-utils
     freerdp2-x11 freerdp2-shadow-x11 winpr-utils x11vnc
     python3 python3-websockets

@@ -4,6 +4,7 @@
 #include "QmlSingleton.h"
 #include "ViewDialog.h"
 #include "VncInput.h"
+#include "X11ShmPresenter.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -58,7 +59,7 @@ char* VNCConnector::getPassword(rfbClient*)
 rfbBool VNCConnector::mallocFrameBuffer(rfbClient* client)
 {
     qInfo() << "Resize to" << client->width << client->height;
-    m_image = QImage(client->width, client->height, QImage::Format_RGB32);
+    m_image = X11ShmPresenter::instance().allocateFrame(QSize(client->width, client->height));
     client->frameBuffer = m_image.bits();
     getInstance()->m_damage = m_image.rect();
     return TRUE;

@@ -2,6 +2,7 @@
 
 #include "CustomGraphicsScene.h"
 #include "RemoteConnectionInterface.h"
+#include "X11ShmPresenter.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -94,7 +95,8 @@ void ViewDialog::imageReady(QImage image)
         m_item = m_scene->addPixmap(m_pixmap);
         ui->graphicsView->setMouseTracking(true);
     } else if (sameBuffer) {
-        m_item->update(changed);
+        if (!presentDirectly(image, changed))
+            m_item->update(changed);
     } else {
         m_item->setPixmap(m_pixmap);
     }
@@ -104,6 +106,21 @@ void ViewDialog::imageReady(QImage image)
     m_scene->setOriginalSize(frameSize.width(), frameSize.height());
     ui->graphicsView->horizontalScrollBar()->setValue(0);
     ui->graphicsView->verticalScrollBar()->setValue(0);
+}
+
+bool ViewDialog::presentDirectly(const QImage& frame, const QRect& changed)
+{
+    // Straight to the window only where the view shows the frame pixel for pixel; what the toolkit
+    // paints there afterwards comes from the same memory.
+    const QGraphicsView* view = ui->graphicsView;
+    if (!isVisible() || !view->transform().isIdentity() || devicePixelRatioF() != 1.0)
+        return false;
+    const QPoint origin = view->mapFromScene(QPointF(0, 0));
+    const QRect visible = changed.translated(origin) & view->viewport()->rect();
+    if (visible.isEmpty())
+        return true;
+    return X11ShmPresenter::instance().present(window()->winId(), frame, visible.translated(-origin),
+                                               view->viewport()->mapTo(window(), visible.topLeft()));
 }
 
 bool ViewDialog::eventFilter(QObject* watched, QEvent* event)

@@ -41,6 +41,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // Puts the changed part of a shared frame on the window without the toolkit's painting.
+    bool presentDirectly(const QImage& frame, const QRect& changed);
+
     bool m_stopped = false;
     Ui_ViewDialog* ui;
     RemoteConnectionInterface* m_interface = nullptr;

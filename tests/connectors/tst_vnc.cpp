@@ -5,6 +5,7 @@
 #include "VNCConnectDialogBackend.h"
 #include "VNCConnector.h"
 #include "VncInput.h"
+#include "X11ShmPresenter.h"
 #include "ViewDialog.h"
 
 #include <QGraphicsPixmapItem>
@@ -255,6 +256,19 @@ private slots:
         QCOMPARE(shown.pixelColor(inside), QColor(Qt::blue));
         QCOMPARE(shown.pixelColor(2, 2), QColor(Qt::black));
         QCOMPARE(dialog.lastFrame().toImage().pixelColor(0, 0), QColor(Qt::blue));
+    }
+
+    // Without an X server frames are plain black images and the window paints them itself.
+    void framesWithoutX()
+    {
+        X11ShmPresenter& presenter = X11ShmPresenter::instance();
+        const QImage frame = presenter.allocateFrame(QSize(32, 16));
+        QCOMPARE(frame.size(), QSize(32, 16));
+        QCOMPARE(frame.format(), QImage::Format_RGB32);
+        QCOMPARE(frame.pixel(31, 15), qRgb(0, 0, 0));
+        QVERIFY(!presenter.isShared(frame));
+        QVERIFY(!presenter.present(1, frame, frame.rect(), QPoint()));
+        QVERIFY(presenter.allocateFrame(QSize(0, 16)).isNull());
     }
 
     void dialogKeysAndPercentage()

@@ -3,6 +3,7 @@
 #include "TestSandbox.h"
 #include "ViewDialog.h"
 #include "VNCConnector.h"
+#include "X11ShmPresenter.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -188,6 +189,37 @@ QImage xImage(XImage* image)
     return frame;
 }
 
+// What the X server shows in the viewer's window where the frame is (not what the toolkit would
+// paint there now): a frame that reached the screen without a repaint is seen too.
+class ScreenReader {
+public:
+    ScreenReader() : m_display(XOpenDisplay(nullptr)) { XSetErrorHandler([](Display*, XErrorEvent*) { return 0; }); }
+    ~ScreenReader()
+    {
+        if (m_display)
+            XCloseDisplay(m_display);
+    }
+    QImage frameArea(ViewDialog* viewer, QSize size) const
+    {
+        const QPoint at = viewer->view()->viewport()->mapTo(viewer, viewer->view()->mapFromScene(0, 0));
+        return area(viewer->winId(), QRect(at, size));
+    }
+    QImage area(WId window, QRect rect) const
+    {
+        if (!m_display)
+            return QImage();
+        XImage* image = XGetImage(m_display, window, rect.x(), rect.y(), rect.width(), rect.height(), AllPlanes, ZPixmap);
+        if (!image)
+            return QImage();
+        const QImage pixels = xImage(image);
+        XDestroyImage(image);
+        return pixels;
+    }
+
+private:
+    Display* m_display;
+};
+
 } // namespace
 
 class tst_VncServers : public QObject {
@@ -250,14 +282,29 @@ private slots:
 
     // One whole session: pattern shown, input sent as the key table says, Escape kept back, frames
     // followed through a change and a resize, and the last frame kept when the server goes away.
+    // Frames reach the window straight from shared memory, or through the toolkit's painting when
+    // that is not available; the screen must show the same either way.
+    void session_data()
+    {
+        QTest::addColumn<bool>("sharedMemory");
+        QTest::newRow("shared memory") << true;
+        QTest::newRow("toolkit painting") << false;
+    }
     void session()
     {
+        QFETCH(bool, sharedMemory);
+        X11ShmPresenter::setEnabled(sharedMemory);
+        struct Restore {
+            ~Restore() { X11ShmPresenter::setEnabled(true); }
+        } restore;
+        ScreenReader screenReader;
         TestServer server;
         const quint16 port = freeLocalPort();
         QVERIFY(server.start({QStringLiteral("--password"), QStringLiteral("secret"), QStringLiteral("--port"), QString::number(port)}));
 
         ViewDialog* viewer = nullptr;
-        QString firstFrame, shown, inverted, resized, afterClose;
+        QString firstFrame, shown, inverted, resized, invertedBack, afterClose;
+        bool sharedFrames = false;
         QRect geometry;
         QStringList input;
         QPixmap frameBeforeClose;
@@ -278,7 +325,9 @@ private slots:
             // What the window shows: the view centres the frame when it is smaller than the window.
             const QImage screen = viewer->view()->viewport()->grab(QRect(viewer->view()->mapFromScene(0, 0), QSize(640, 480))).toImage();
             shown = patternMismatch(screen, QSize(640, 480), false);
-            return shown.isEmpty(); // the frame reaches the scene a moment after it is received
+            if (shown.isEmpty()) // and the first frame is on screen without any further update
+                shown = QStringLiteral("on screen: ") + patternMismatch(screenReader.frameArea(viewer, QSize(640, 480)), QSize(640, 480), false);
+            return shown == QLatin1String("on screen: "); // the frame reaches the scene a moment after it is received
         });
         script.add("key and pointer events", [&] {
             QWidget* surface = viewer->view()->viewport();
@@ -306,7 +355,10 @@ private slots:
                 inverted = QStringLiteral("sent");
             }
             inverted = patternMismatch(frame(), QSize(640, 480), true);
-            return inverted.isEmpty();
+            if (inverted.isEmpty())
+                inverted = QStringLiteral("on screen: ") + patternMismatch(screenReader.frameArea(viewer, QSize(640, 480)), QSize(640, 480), true);
+            sharedFrames = X11ShmPresenter::instance().isShared(frame());
+            return inverted == QLatin1String("on screen: ");
         });
         script.add("the new size", [&] {
             if (resized.isNull()) {
@@ -315,6 +367,17 @@ private slots:
             }
             resized = patternMismatch(frame(), QSize(800, 600), true);
             return resized.isEmpty();
+        });
+        // Smaller than the window, the frame is centred: the changed part goes to the same place.
+        script.add("the pattern back at the new size", [&] {
+            if (invertedBack.isNull()) {
+                server.send("invert");
+                invertedBack = QStringLiteral("sent");
+            }
+            invertedBack = patternMismatch(frame(), QSize(800, 600), false);
+            if (invertedBack.isEmpty())
+                invertedBack = QStringLiteral("on screen: ") + patternMismatch(screenReader.frameArea(viewer, QSize(800, 600)), QSize(800, 600), false);
+            return invertedBack == QLatin1String("on screen: ");
         });
         script.add("the server gone", [&] {
             if (frameBeforeClose.isNull()) {
@@ -326,7 +389,7 @@ private slots:
         script.add("a while after", [&] { return ++closeWait > 10; });
         script.add("the window as it was", [&] {
             stillOpenAfterClose = viewer->isVisible();
-            afterClose = patternMismatch(frame(), QSize(800, 600), true);
+            afterClose = patternMismatch(frame(), QSize(800, 600), false);
             return true;
         });
 
@@ -335,7 +398,9 @@ private slots:
             vncRecord(QStringLiteral("127.0.0.1:%1").arg(port), QStringLiteral("secret"), 100));
         QVERIFY2(script.failure().isEmpty(),
                  qPrintable(script.failure() + QStringLiteral("\nframe: ") + firstFrame + QStringLiteral(", shown: ") + shown
+                            + QStringLiteral(", inverted: ") + inverted + QStringLiteral(", back: ") + invertedBack
                             + QStringLiteral("\nserver: ") + server.lines().join(QStringLiteral(", "))));
+        QCOMPARE(sharedFrames, sharedMemory);
         QVERIFY(opened);
 
         QCOMPARE(viewer->windowTitle(), QStringLiteral("Connection"));
@@ -347,6 +412,68 @@ private slots:
         QVERIFY(stillOpenAfterClose);
         QVERIFY2(afterClose.isEmpty(), qPrintable(afterClose));
         QVERIFY(!viewer->isVisible());
+    }
+
+    // The presenter on its own: the part of a shared frame asked for lands where asked and nowhere
+    // else; frames it did not allocate and windows that read pixels differently are declined.
+    void presenter()
+    {
+        X11ShmPresenter& presenter = X11ShmPresenter::instance();
+        QImage frame = presenter.allocateFrame(QSize(64, 48));
+        QVERIFY(presenter.isShared(frame));
+        QCOMPARE(frame.pixel(10, 10) & 0xFFFFFF, 0u);
+        frame.fill(qRgb(10, 200, 30));
+        QVERIFY(!presenter.isShared(frame.copy()));
+
+        QWidget window;
+        window.setAutoFillBackground(true);
+        window.setPalette(QPalette(Qt::white));
+        window.setGeometry(0, 0, 200, 100);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTest::qWait(50);
+        QVERIFY(presenter.present(window.winId(), frame, QRect(8, 4, 16, 8), QPoint(50, 20)));
+        ScreenReader screen;
+        const QImage shown = screen.area(window.winId(), QRect(0, 0, 200, 100));
+        QCOMPARE(shown.size(), QSize(200, 100));
+        for (int y = 0; y < 100; ++y)
+            for (int x = 0; x < 200; ++x) {
+                const QRgb expected = QRect(50, 20, 16, 8).contains(x, y) ? qRgb(10, 200, 30) : qRgb(255, 255, 255);
+                QVERIFY2((shown.pixel(x, y) & 0xFFFFFF) == (expected & 0xFFFFFF), qPrintable(QStringLiteral("pixel %1,%2").arg(x).arg(y)));
+            }
+        // Only the part inside the frame is put; nothing of it is visible is still a success.
+        QVERIFY(presenter.present(window.winId(), frame, QRect(60, 40, 20, 20), QPoint(0, 0)));
+        QVERIFY(presenter.present(window.winId(), frame, QRect(100, 100, 5, 5), QPoint(0, 0)));
+
+        QImage plain(64, 48, QImage::Format_RGB32);
+        QVERIFY(!presenter.isShared(plain));
+        QVERIFY(!presenter.present(window.winId(), plain, plain.rect(), QPoint()));
+
+        // A window with an alpha channel would take the unused top byte as opacity.
+        QWidget translucent;
+        translucent.setAttribute(Qt::WA_TranslucentBackground);
+        translucent.setGeometry(0, 0, 100, 100);
+        translucent.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&translucent));
+        XWindowAttributes attributes{};
+        Display* x = XOpenDisplay(nullptr);
+        XGetWindowAttributes(x, translucent.winId(), &attributes);
+        XCloseDisplay(x);
+        QCOMPARE(attributes.depth, 32);
+        QVERIFY(!presenter.present(translucent.winId(), frame, frame.rect(), QPoint()));
+
+        // A window that went away after it was last used.
+        WId gone = 0;
+        {
+            QWidget shortLived;
+            shortLived.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&shortLived));
+            gone = shortLived.winId();
+            QVERIFY(presenter.present(gone, frame, frame.rect(), QPoint()));
+        }
+        QTest::qWait(50); // the toolkit's own connection sends the destruction
+        QVERIFY(!presenter.present(gone, frame, frame.rect(), QPoint()));
+        QVERIFY(presenter.present(window.winId(), frame, frame.rect(), QPoint()));
     }
 
     // x11vnc serving another X server: the viewer's frame is that display's content, pixel for pixel.
