@@ -134,14 +134,16 @@ int runShell(int argc, char* argv[])
     engine.rootContext()->setContextProperty(QStringLiteral("apiInstance"), api);
 
     engine.load(QUrl(QStringLiteral("qrc:/vorplex/Main.qml")));
-    TeamsConnector::runThread();
-    ConnectionManager::getInstance()->performAutoconnect();
-    TrayIcon trayIcon;
+    // The root screen is on screen before any session starts: an auto-connected viewer that does
+    // not cover the whole screen has the home screen around it, not an empty display.
     std::unique_ptr<WindowPresenter> presenter;
     if (!engine.rootObjects().isEmpty())
         presenter = std::make_unique<WindowPresenter>(engine.rootObjects().constFirst(), options);
     else if (!options.screenshotFile.isEmpty())
         return 3; // nothing to grab
+    TeamsConnector::runThread();
+    ConnectionManager::getInstance()->performAutoconnect();
+    TrayIcon trayIcon;
 
     const int status = app.exec();
     api->shutdown();

@@ -95,6 +95,7 @@ QImage X11ShmPresenter::allocateFrame(const QSize& size)
     shmctl(id, IPC_RMID, nullptr);
     if (error) {
         // A server on another machine cannot attach our memory.
+        qInfo() << "VNC frames are painted by the toolkit (the X server cannot attach shared memory)";
         shmdt(address);
         delete segment;
         m_attachOk = false;
@@ -102,6 +103,7 @@ QImage X11ShmPresenter::allocateFrame(const QSize& size)
     }
     if (!m_probed && !sharesMemory(segment->id, static_cast<uint32_t*>(address))) {
         // The server attached something, but not our memory (it runs in another IPC namespace).
+        qInfo() << "VNC frames are painted by the toolkit (the X server does not see our shared memory)";
         release(segment, false);
         m_attachOk = false;
         return allocateFrame(size);
