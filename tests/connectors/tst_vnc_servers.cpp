@@ -193,7 +193,12 @@ QImage xImage(XImage* image)
 // paint there now): a frame that reached the screen without a repaint is seen too.
 class ScreenReader {
 public:
-    ScreenReader() : m_display(XOpenDisplay(nullptr)) { XSetErrorHandler([](Display*, XErrorEvent*) { return 0; }); }
+    ScreenReader() : m_display(XOpenDisplay(nullptr))
+    {
+        XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
+        if (!m_display)
+            qWarning() << "cannot open the display" << qgetenv("DISPLAY");
+    }
     ~ScreenReader()
     {
         if (m_display)
