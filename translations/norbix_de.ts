@@ -16,17 +16,17 @@
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="37"/>
         <source>Edit Browser Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Browser-Verbindung bearbeiten</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="37"/>
         <source>Add Browser Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Browser-Verbindung hinzufügen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="38"/>
         <source>A web site or web application in the browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Website oder Webanwendung im Browser.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="40"/>
@@ -61,7 +61,7 @@
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="94"/>
         <source>e.g. https://intranet.example.com</source>
-        <translation type="unfinished"></translation>
+        <translation>z. B. https://intranet.example.com</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="104"/>
@@ -76,7 +76,7 @@
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="113"/>
         <source>Full screen, without address bar, tabs or menus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbild ohne Adressleiste, Tabs oder Menüs.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="121"/>
@@ -86,7 +86,7 @@
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="122"/>
         <source>Nothing from earlier visits is kept: no history, cookies or cache.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von früheren Besuchen bleibt nichts erhalten: kein Verlauf, keine Cookies, kein Cache.</translation>
     </message>
 </context>
 <context>
@@ -104,17 +104,17 @@
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="54"/>
         <source>Edit Citrix Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Citrix-Verbindung bearbeiten</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="54"/>
         <source>Add Citrix Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Citrix-Verbindung hinzufügen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="55"/>
         <source>A published desktop or application from a Citrix store.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein veröffentlichter Desktop oder eine Anwendung aus einem Citrix-Store.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="57"/>
@@ -149,7 +149,7 @@
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="118"/>
         <source>Store address, e.g. https://citrix.example.com</source>
-        <translation type="unfinished"></translation>
+        <translation>Store-Adresse, z. B. https://citrix.example.com</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="128"/>
@@ -164,12 +164,12 @@
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="140"/>
         <source>User name and password are saved with the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername und Passwort werden mit der Verbindung gespeichert.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="141"/>
         <source>User name and password are only used to browse resources and are not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername und Passwort dienen nur zum Durchsuchen der Ressourcen und werden nicht gespeichert.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="155"/>
@@ -190,7 +190,7 @@
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="174"/>
         <source>The desktop or application this connection opens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Desktop oder die Anwendung, die diese Verbindung öffnet.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="179"/>
@@ -205,12 +205,12 @@
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="188"/>
         <source>Name as the store lists it</source>
-        <translation type="unfinished"></translation>
+        <translation>Name, wie er im Store aufgeführt ist</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddCitrixConnection.qml" line="193"/>
         <source>Browse resources</source>
-        <translation type="unfinished"></translation>
+        <translation>Ressourcen durchsuchen</translation>
     </message>
 </context>
 <context>
@@ -223,17 +223,17 @@
     <message>
         <location filename="../qml/vorplex/AddPuttyConnection.qml" line="35"/>
         <source>Edit PuTTY Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>PuTTY-Verbindung bearbeiten</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddPuttyConnection.qml" line="35"/>
         <source>Add PuTTY Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>PuTTY-Verbindung hinzufügen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddPuttyConnection.qml" line="36"/>
         <source>A terminal session to a server or network device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Terminalsitzung zu einem Server oder Netzwerkgerät.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddPuttyConnection.qml" line="38"/>
@@ -268,7 +268,7 @@
     <message>
         <location filename="../qml/vorplex/AddPuttyConnection.qml" line="88"/>
         <source>Host name or IP address</source>
-        <translation type="unfinished"></translation>
+        <translation>Hostname oder IP-Adresse</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddPuttyConnection.qml" line="89"/>
@@ -297,17 +297,17 @@
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="49"/>
         <source>Edit RDP Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>RDP-Verbindung bearbeiten</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="49"/>
         <source>Add RDP Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>RDP-Verbindung hinzufügen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="50"/>
         <source>A Windows desktop or server reached over Remote Desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Windows-Desktop oder -Server, der über Remotedesktop erreicht wird.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="52"/>
@@ -343,7 +343,7 @@
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="116"/>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="247"/>
         <source>Host name or IP address</source>
-        <translation type="unfinished"></translation>
+        <translation>Hostname oder IP-Adresse</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="126"/>
@@ -358,12 +358,12 @@
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="138"/>
         <source>The session starts without asking for a password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sitzung startet ohne Passwortabfrage.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="139"/>
         <source>User name and password are asked for each time the session starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername und Passwort werden bei jedem Sitzungsstart abgefragt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="153"/>
@@ -399,7 +399,7 @@
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="190"/>
         <source>The session fills the whole screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sitzung füllt den ganzen Bildschirm.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="198"/>
@@ -409,7 +409,7 @@
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="199"/>
         <source>The session spans every connected display.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sitzung erstreckt sich über alle angeschlossenen Bildschirme.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="207"/>
@@ -419,77 +419,77 @@
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="208"/>
         <source>Sign in to the session with a smart card in this terminal&apos;s reader.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung an der Sitzung mit einer Smartcard im Kartenleser dieses Terminals.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="216"/>
         <source>USB redirection</source>
-        <translation type="unfinished"></translation>
+        <translation>USB-Umleitung</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="217"/>
         <source>USB devices plugged into this terminal appear in the session.</source>
-        <translation type="unfinished"></translation>
+        <translation>An dieses Terminal angeschlossene USB-Geräte erscheinen in der Sitzung.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="225"/>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="226"/>
         <source>Printers set up on this terminal can be used from the session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Terminal eingerichtete Drucker sind in der Sitzung nutzbar.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="232"/>
         <source>Gateway</source>
-        <translation type="unfinished"></translation>
+        <translation>Gateway</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="233"/>
         <source>Only needed when the server is reached through a Remote Desktop Gateway.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur nötig, wenn der Server über ein Remotedesktop-Gateway erreicht wird.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="246"/>
         <source>Gateway host</source>
-        <translation type="unfinished"></translation>
+        <translation>Gateway-Host</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="257"/>
         <source>Gateway user name</source>
-        <translation type="unfinished"></translation>
+        <translation>Gateway-Benutzername</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="267"/>
         <source>Gateway domain</source>
-        <translation type="unfinished"></translation>
+        <translation>Gateway-Domäne</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="277"/>
         <source>Gateway password</source>
-        <translation type="unfinished"></translation>
+        <translation>Gateway-Passwort</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="285"/>
         <source>Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="286"/>
         <source>Best quality suits fast networks; Fastest lowers colour depth and effects for slow links.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Beste Qualität“ eignet sich für schnelle Netzwerke; „Am schnellsten“ verringert Farbtiefe und Effekte für langsame Verbindungen.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="292"/>
         <source>Best quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Beste Qualität</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AddRDPConnection.qml" line="292"/>
         <source>Fastest</source>
-        <translation type="unfinished"></translation>
+        <translation>Am schnellsten</translation>
     </message>
 </context>
 <context>
@@ -660,12 +660,12 @@
     <message>
         <location filename="../qml/vorplex/AdminLoginDialog.qml" line="11"/>
         <source>Administrator access</source>
-        <translation type="unfinished"></translation>
+        <translation>Administratorzugriff</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminLoginDialog.qml" line="12"/>
         <source>Advanced settings are protected. Enter the administrator password to unlock them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erweiterten Einstellungen sind geschützt. Geben Sie das Administratorpasswort ein, um sie zu entsperren.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminLoginDialog.qml" line="13"/>
@@ -688,37 +688,37 @@
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="16"/>
         <source>The current password is not correct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das aktuelle Passwort ist nicht korrekt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="20"/>
         <source>Enter a new password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie ein neues Passwort ein.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="23"/>
         <source>The passwords do not match.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Passwörter stimmen nicht überein.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="33"/>
         <source>Administrator password changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Administratorpasswort geändert.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="42"/>
         <source>Change administrator password</source>
-        <translation type="unfinished"></translation>
+        <translation>Administratorpasswort ändern</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="43"/>
         <source>Anyone who knows this password can change the advanced settings of this terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer dieses Passwort kennt, kann die erweiterten Einstellungen dieses Terminals ändern.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="49"/>
         <source>Current password</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelles Passwort</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="58"/>
@@ -728,12 +728,35 @@
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="67"/>
         <source>Repeat new password</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Passwort wiederholen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/AdminPasswordPage.qml" line="75"/>
         <source>Change password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort ändern</translation>
+    </message>
+</context>
+<context>
+    <name>CertificatesModel</name>
+    <message>
+        <location filename="../src/maintenance/CertificatesModel.cpp" line="6"/>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <location filename="../src/maintenance/CertificatesModel.cpp" line="6"/>
+        <source>Not before</source>
+        <translation>Gültig ab</translation>
+    </message>
+    <message>
+        <location filename="../src/maintenance/CertificatesModel.cpp" line="7"/>
+        <source>Not after</source>
+        <translation>Gültig bis</translation>
+    </message>
+    <message>
+        <location filename="../src/maintenance/CertificatesModel.cpp" line="7"/>
+        <source>Manage</source>
+        <translation>Verwalten</translation>
     </message>
 </context>
 <context>
@@ -741,57 +764,57 @@
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="42"/>
         <source>Enter the password of the certificate file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie das Passwort der Zertifikatsdatei ein.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="59"/>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="60"/>
         <source>Certificate added</source>
-        <translation type="unfinished"></translation>
+        <translation>Zertifikat hinzugefügt</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="66"/>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="75"/>
         <source>Import a certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Zertifikat importieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="76"/>
         <source>Certificate files (.crt, .cer, .der, .pfx) on a USB drive. The certificate is trusted by this terminal and its sessions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zertifikatsdateien (.crt, .cer, .der, .pfx) auf einem USB-Laufwerk. Dieses Terminal und seine Sitzungen vertrauen dem Zertifikat.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="81"/>
         <source>Certificate file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zertifikatsdatei</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="85"/>
         <source>No certificate files found</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zertifikatsdateien gefunden</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="86"/>
         <source>Insert a USB drive with certificate files, then refresh the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stecken Sie ein USB-Laufwerk mit Zertifikatsdateien ein und aktualisieren Sie die Liste.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="91"/>
         <source>Refresh file list</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiliste aktualisieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="101"/>
         <source>Password of the certificate file</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort der Zertifikatsdatei</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="111"/>
@@ -801,12 +824,12 @@
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="126"/>
         <source>Installed certificates</source>
-        <translation type="unfinished"></translation>
+        <translation>Installierte Zertifikate</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="127"/>
         <source>Authorities this terminal trusts in addition to the system&apos;s own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zertifizierungsstellen, denen dieses Terminal zusätzlich zu denen des Systems vertraut.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="131"/>
@@ -816,12 +839,12 @@
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="139"/>
         <source>Show all certificates</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Zertifikate anzeigen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="203"/>
         <source>System certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemzertifikat</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="234"/>
@@ -832,22 +855,22 @@
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="251"/>
         <source>No certificates installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zertifikate installiert</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="252"/>
         <source>Import a certificate from a USB drive, or show the system&apos;s certificates too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren Sie ein Zertifikat von einem USB-Laufwerk, oder lassen Sie auch die Systemzertifikate anzeigen.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="258"/>
         <source>Remove certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Zertifikat entfernen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CertificatesPage.qml" line="259"/>
         <source>Remove %1? This terminal and its sessions will no longer trust the servers it vouches for.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 entfernen? Dieses Terminal und seine Sitzungen vertrauen den damit beglaubigten Servern dann nicht mehr.</translation>
     </message>
 </context>
 <context>
@@ -855,7 +878,7 @@
     <message>
         <location filename="../src/maintenance/CertificatesStorage.cpp" line="204"/>
         <source>The file name %1 has no name before its extension.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dateiname %1 enthält vor der Dateiendung keinen Namen.</translation>
     </message>
 </context>
 <context>
@@ -863,17 +886,17 @@
     <message>
         <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="55"/>
         <source>Citrix resources</source>
-        <translation type="unfinished"></translation>
+        <translation>Citrix-Ressourcen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="55"/>
         <source>Citrix</source>
-        <translation type="unfinished"></translation>
+        <translation>Citrix</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="60"/>
         <source>Use resource</source>
-        <translation type="unfinished"></translation>
+        <translation>Ressource verwenden</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="62"/>
@@ -883,22 +906,22 @@
     <message>
         <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="62"/>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="108"/>
         <source>The store offers no resources for this account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Store bietet für dieses Konto keine Ressourcen an.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="171"/>
         <source>Contacting the Citrix store…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung zum Citrix-Store wird hergestellt…</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="172"/>
         <source>Starting the Citrix session…</source>
-        <translation type="unfinished"></translation>
+        <translation>Citrix-Sitzung wird gestartet…</translation>
     </message>
 </context>
 <context>
@@ -906,7 +929,7 @@
     <message>
         <location filename="../qml/vorplex/ConnectionKinds.qml" line="15"/>
         <source>VMware Horizon</source>
-        <translation type="unfinished"></translation>
+        <translation>VMware Horizon</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionKinds.qml" line="16"/>
@@ -916,12 +939,12 @@
     <message>
         <location filename="../qml/vorplex/ConnectionKinds.qml" line="17"/>
         <source>Citrix</source>
-        <translation type="unfinished"></translation>
+        <translation>Citrix</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionKinds.qml" line="18"/>
         <source>Remote Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Remotedesktop</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionKinds.qml" line="19"/>
@@ -931,12 +954,12 @@
     <message>
         <location filename="../qml/vorplex/ConnectionKinds.qml" line="20"/>
         <source>Microsoft Teams</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsoft Teams</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionKinds.qml" line="21"/>
         <source>PuTTY</source>
-        <translation type="unfinished"></translation>
+        <translation>PuTTY</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionKinds.qml" line="24"/>
@@ -982,12 +1005,12 @@
     <message>
         <location filename="../qml/vorplex/ConnectionTile.qml" line="70"/>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Autostart</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionTile.qml" line="101"/>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
 </context>
 <context>
@@ -1000,19 +1023,19 @@
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="24"/>
         <source>RDP</source>
-        <translation type="unfinished"></translation>
+        <translation>RDP</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="25"/>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="176"/>
         <source>Citrix</source>
-        <translation type="unfinished"></translation>
+        <translation>Citrix</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="26"/>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="183"/>
         <source>VMware Horizon</source>
-        <translation type="unfinished"></translation>
+        <translation>VMware Horizon</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="27"/>
@@ -1024,12 +1047,12 @@
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="28"/>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="197"/>
         <source>PuTTY</source>
-        <translation type="unfinished"></translation>
+        <translation>PuTTY</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="29"/>
         <source>Microsoft Teams</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsoft Teams</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="30"/>
@@ -1040,22 +1063,22 @@
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="69"/>
         <source>“%1” added.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hinzugefügt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="69"/>
         <source>Changes to “%1” saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an „%1“ gespeichert.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="85"/>
         <source>Microsoft Teams added.</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsoft Teams hinzugefügt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="87"/>
         <source>Microsoft Teams is already in the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsoft Teams ist bereits in der Liste.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="153"/>
@@ -1066,17 +1089,17 @@
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="169"/>
         <source>Remote Desktop (RDP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Remotedesktop (RDP)</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="221"/>
         <source>Add Microsoft Teams</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsoft Teams hinzufügen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="420"/>
         <source>Start automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch starten</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="439"/>
@@ -1086,7 +1109,7 @@
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="439"/>
         <source>Nothing to edit for this kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diesen Typ gibt es nichts zu bearbeiten</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="447"/>
@@ -1102,7 +1125,7 @@
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="463"/>
         <source>Add a remote desktop, a web site or an application. Each connection appears as a tile on the home screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügen Sie einen entfernten Desktop, eine Website oder eine Anwendung hinzu. Jede Verbindung erscheint als Kachel auf dem Startbildschirm.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="479"/>
@@ -1112,22 +1135,22 @@
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="480"/>
         <source>Kinds of connection that can be added on this terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungstypen, die auf diesem Terminal hinzugefügt werden können.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="516"/>
         <source>Remove connection?</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung entfernen?</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="517"/>
         <source>“%1” will be removed from this terminal, and its tile from the home screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird von diesem Terminal entfernt, die zugehörige Kachel vom Startbildschirm.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/ConnectionsPage.qml" line="522"/>
         <source>“%1” removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ entfernt.</translation>
     </message>
 </context>
 <context>
@@ -1145,9 +1168,9 @@
     <message numerus="yes">
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="39"/>
         <source>%n group(s) of settings saved to %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellungsgruppe in %1 gespeichert.</numerusform>
+            <numerusform>%n Einstellungsgruppen in %1 gespeichert.</numerusform>
         </translation>
     </message>
     <message>
@@ -1206,12 +1229,12 @@
     <message>
         <location filename="../qml/custom/NorbixUi/FormPage.qml" line="75"/>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <location filename="../qml/custom/NorbixUi/FormPage.qml" line="126"/>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -1219,17 +1242,17 @@
     <message numerus="yes">
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="33"/>
         <source>%n group(s) of settings loaded.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellungsgruppe geladen.</numerusform>
+            <numerusform>%n Einstellungsgruppen geladen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="36"/>
         <source>%n group(s) of settings loaded. Not in the saved set, so reset to their defaults: %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Einstellungsgruppe geladen. Nicht im gespeicherten Satz enthalten und daher auf die Standardwerte zurückgesetzt: %1.</numerusform>
+            <numerusform>%n Einstellungsgruppen geladen. Nicht im gespeicherten Satz enthalten und daher auf die Standardwerte zurückgesetzt: %1.</numerusform>
         </translation>
     </message>
     <message>
@@ -1291,22 +1314,22 @@
         <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="185"/>
         <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="200"/>
         <source>The update service sent an answer that cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Dienst hat eine unlesbare Antwort gesendet.</translation>
     </message>
     <message>
         <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="163"/>
         <source>The update service refused the request (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Dienst hat die Anfrage abgelehnt (HTTP %1).</translation>
     </message>
     <message>
         <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="165"/>
         <source>The update service did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Dienst hat nicht rechtzeitig geantwortet.</translation>
     </message>
     <message>
         <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="167"/>
         <source>The update service is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Dienst läuft nicht.</translation>
     </message>
 </context>
 <context>
@@ -1314,12 +1337,12 @@
     <message>
         <location filename="../qml/vorplex/LockedPage.qml" line="19"/>
         <source>Administrator access required</source>
-        <translation type="unfinished"></translation>
+        <translation>Administratorzugriff erforderlich</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LockedPage.qml" line="20"/>
         <source>This section changes how the terminal works for everyone who uses it. Unlock the advanced settings with the administrator password to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Bereich ändert das Verhalten des Terminals für alle, die es benutzen. Entsperren Sie die erweiterten Einstellungen mit dem Administratorpasswort, um fortzufahren.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LockedPage.qml" line="24"/>
@@ -1332,27 +1355,27 @@
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="27"/>
         <source>Export finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>Export abgeschlossen.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="48"/>
         <source>Debug logging</source>
-        <translation type="unfinished"></translation>
+        <translation>Debug-Protokollierung</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="49"/>
         <source>Records detailed messages for troubleshooting. Logs grow faster while it is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet ausführliche Meldungen zur Fehlersuche auf. Die Protokolle wachsen dann schneller.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="59"/>
         <source>Export logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokolle exportieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="60"/>
         <source>Save the logs to a USB drive, for example to pass them on to support.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern Sie die Protokolle auf einem USB-Laufwerk, etwa um sie an den Support weiterzugeben.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="65"/>
@@ -1387,12 +1410,12 @@
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="94"/>
         <source>Current session</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Sitzung</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="95"/>
         <source>Messages logged since the shell was started.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seit dem Start der Shell protokollierte Meldungen.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="99"/>
@@ -1402,7 +1425,7 @@
     <message>
         <location filename="../qml/vorplex/LogsPage.qml" line="138"/>
         <source>No messages logged yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Meldungen protokolliert.</translation>
     </message>
 </context>
 <context>
@@ -1416,47 +1439,47 @@
     <message>
         <location filename="../qml/vorplex/Main.qml" line="73"/>
         <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Verbindung ist unvollständig und kann nicht gestartet werden. Ein Administrator kann sie unter Einstellungen → Verbindungen vervollständigen.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/Main.qml" line="107"/>
         <source>Connecting to the Citrix store…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung zum Citrix-Store wird hergestellt…</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/Main.qml" line="111"/>
         <source>Support desk</source>
-        <translation type="unfinished"></translation>
+        <translation>Helpdesk</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/Main.qml" line="111"/>
         <source>Alex from IT support would like to see your screen to help with your ticket.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alex vom IT-Support möchte Ihren Bildschirm sehen, um Ihnen bei Ihrem Ticket zu helfen.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/Main.qml" line="176"/>
         <source>Your request for help has been sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Bitte um Hilfe wurde gesendet.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/Main.qml" line="224"/>
         <source>“%1” added.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hinzugefügt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/Main.qml" line="224"/>
         <source>Changes to “%1” saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an „%1“ gespeichert.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/Main.qml" line="234"/>
         <source>Connection error</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungsfehler</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/Main.qml" line="236"/>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -1655,7 +1678,7 @@
     <message>
         <location filename="../qml/custom/NorbixUi/ModalDialog.qml" line="11"/>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <location filename="../qml/custom/NorbixUi/ModalDialog.qml" line="12"/>
@@ -1668,7 +1691,7 @@
     <message>
         <location filename="../qml/custom/NorbixUi/NavItem.qml" line="21"/>
         <source>%1 (locked)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (gesperrt)</translation>
     </message>
 </context>
 <context>
@@ -1676,12 +1699,12 @@
     <message>
         <location filename="../qml/custom/NorbixUi/PasswordField.qml" line="58"/>
         <source>Hide password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort ausblenden</translation>
     </message>
     <message>
         <location filename="../qml/custom/NorbixUi/PasswordField.qml" line="58"/>
         <source>Show password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1689,12 +1712,12 @@
     <message>
         <location filename="../qml/custom/NorbixUi/PlaceholderCard.qml" line="8"/>
         <source>Not available on this terminal yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Terminal noch nicht verfügbar</translation>
     </message>
     <message>
         <location filename="../qml/custom/NorbixUi/PlaceholderCard.qml" line="9"/>
         <source>These settings arrive with a later software update. Until then the terminal keeps its current configuration, and nothing here needs your attention.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Einstellungen kommen mit einem späteren Software-Update. Bis dahin behält das Terminal seine aktuelle Konfiguration, und hier ist nichts zu tun.</translation>
     </message>
 </context>
 <context>
@@ -1735,17 +1758,17 @@
     <message>
         <location filename="../qml/vorplex/RDPLoginDialog.qml" line="35"/>
         <source>Enter your user name and password to start the session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie Benutzername und Passwort ein, um die Sitzung zu starten.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/RDPLoginDialog.qml" line="37"/>
         <source>Enter your user name and password for “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie Benutzername und Passwort für „%1“ ein.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/RDPLoginDialog.qml" line="38"/>
         <source>Enter your user name and password for “%1” on %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie Benutzername und Passwort für „%1“ auf %2 ein.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/RDPLoginDialog.qml" line="40"/>
@@ -1755,7 +1778,7 @@
     <message>
         <location filename="../qml/vorplex/RDPLoginDialog.qml" line="52"/>
         <source>User name can&apos;t be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Benutzername darf nicht leer sein</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/RDPLoginDialog.qml" line="72"/>
@@ -2104,7 +2127,7 @@
     <message>
         <location filename="../qml/vorplex/SettingsView.qml" line="126"/>
         <source>Back to home</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zum Startbildschirm</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/SettingsView.qml" line="279"/>
@@ -2137,7 +2160,7 @@
     <message>
         <location filename="../qml/vorplex/TeamsPopup.qml" line="33"/>
         <source>Microsoft Teams</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsoft Teams</translation>
     </message>
 </context>
 <context>
@@ -2145,7 +2168,7 @@
     <message>
         <location filename="../qml/custom/NorbixUi/Toast.qml" line="76"/>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -2153,67 +2176,67 @@
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="11"/>
         <source>Contacting the update service…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung zum Update-Dienst wird hergestellt…</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="12"/>
         <source>Update service unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Update-Dienst nicht verfügbar</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="13"/>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="14"/>
         <source>Checking for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Updates</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="15"/>
         <source>Downloading update</source>
-        <translation type="unfinished"></translation>
+        <translation>Update wird heruntergeladen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="16"/>
         <source>Installing update</source>
-        <translation type="unfinished"></translation>
+        <translation>Update wird installiert</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="17"/>
         <source>Update installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Update installiert</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="18"/>
         <source>Update failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Update fehlgeschlagen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="41"/>
         <source>The terminal is being reset to its factory settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Terminal wird auf die Werkseinstellungen zurückgesetzt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="43"/>
         <source>The update service is installing the package.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Dienst installiert das Paket.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="54"/>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="58"/>
         <source>Check now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt prüfen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="97"/>
         <source>Installed version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Installierte Version: %1</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="134"/>
@@ -2223,108 +2246,108 @@
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="144"/>
         <source>Available updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbare Updates</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="145"/>
         <source>Versions the update service offers for this terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versionen, die der Update-Dienst für dieses Terminal anbietet.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="160"/>
         <source>System %1</source>
-        <translation type="unfinished"></translation>
+        <translation>System %1</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="160"/>
         <source>Shell %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Shell %1</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="182"/>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="195"/>
         <source>No updates available</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Updates verfügbar</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="195"/>
         <source>No information about updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Informationen zu Updates</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="196"/>
         <source>This terminal runs the newest software the update service knows of.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Terminal läuft die neueste Software, die der Update-Dienst kennt.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="197"/>
         <source>Available versions appear here while the update service is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbare Versionen erscheinen hier, solange der Update-Dienst läuft.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="208"/>
         <source>Install updates automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates automatisch installieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="209"/>
         <source>A newer version of the shell is installed as soon as the update service offers it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neuere Version der Shell wird installiert, sobald der Update-Dienst sie anbietet.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="219"/>
         <source>Install from a USB drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Von einem USB-Laufwerk installieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="220"/>
         <source>An update package (.deb) for terminals without access to the update server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Update-Paket (.deb) für Terminals ohne Zugang zum Update-Server.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="225"/>
         <source>Update package</source>
-        <translation type="unfinished"></translation>
+        <translation>Update-Paket</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="228"/>
         <source>No update packages found</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Update-Pakete gefunden</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="229"/>
         <source>Insert a USB drive with an update package, then refresh the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stecken Sie ein USB-Laufwerk mit einem Update-Paket ein und aktualisieren Sie die Liste.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="233"/>
         <source>Refresh package list</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketliste aktualisieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="244"/>
         <source>Install package</source>
-        <translation type="unfinished"></translation>
+        <translation>Paket installieren</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="258"/>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="272"/>
         <source>Factory reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Werkseinstellungen zurücksetzen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="273"/>
         <source>Every setting and connection of this terminal is erased and the terminal restarts with its factory settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einstellungen und Verbindungen dieses Terminals werden gelöscht, und das Terminal startet mit den Werkseinstellungen neu.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/UpdatesPage.qml" line="274"/>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -2342,17 +2365,17 @@
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="44"/>
         <source>Edit VMWare Horizon Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>VMware-Horizon-Verbindung bearbeiten</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="44"/>
         <source>Add VMWare Horizon Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>VMware-Horizon-Verbindung hinzufügen</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="45"/>
         <source>A virtual desktop from a VMware Horizon connection server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein virtueller Desktop von einem VMware-Horizon-Verbindungsserver.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="47"/>
@@ -2387,7 +2410,7 @@
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="103"/>
         <source>Connection server, e.g. horizon.example.com</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungsserver, z. B. horizon.example.com</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="114"/>
@@ -2397,7 +2420,7 @@
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="116"/>
         <source>Display protocol of the desktop session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigeprotokoll der Desktopsitzung.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="123"/>
@@ -2412,12 +2435,12 @@
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="135"/>
         <source>User name and password are saved with the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername und Passwort werden mit der Verbindung gespeichert.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="136"/>
         <source>User name and password are not saved with the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername und Passwort werden nicht mit der Verbindung gespeichert.</translation>
     </message>
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="150"/>
@@ -2447,7 +2470,7 @@
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="180"/>
         <source>Optional: the desktop pool to open</source>
-        <translation type="unfinished"></translation>
+        <translation>Optional: der zu öffnende Desktop-Pool</translation>
     </message>
 </context>
 </TS>

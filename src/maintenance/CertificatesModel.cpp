@@ -3,7 +3,8 @@
 #include "CertificatesStorage.h"
 
 namespace {
-const char* const kHeaders[] = {"Name", "Not before", "Not after", "Manage"};
+const char* const kHeaders[] = {QT_TRANSLATE_NOOP("CertificatesModel", "Name"), QT_TRANSLATE_NOOP("CertificatesModel", "Not before"),
+                                QT_TRANSLATE_NOOP("CertificatesModel", "Not after"), QT_TRANSLATE_NOOP("CertificatesModel", "Manage")};
 constexpr int kColumns = 4;
 } // namespace
 
@@ -59,7 +60,7 @@ QVariant CertificatesModel::headerData(int section, Qt::Orientation orientation,
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= kColumns || (role != Qt::DisplayRole && role != TableDataRole))
         return {};
-    return QString::fromLatin1(kHeaders[section]);
+    return tr(kHeaders[section]);
 }
 
 void CertificatesModel::update(bool showAll)
