@@ -354,35 +354,36 @@ private slots:
                     input << line;
             return true;
         });
-        script.add("the inverted pattern", [&] {
-            if (inverted.isNull()) {
-                server.send("invert");
-                inverted = QStringLiteral("sent");
+        // A server command, sent the first time its step runs.
+        auto sendOnce = [&](QString& state, const QByteArray& command) {
+            if (state.isNull()) {
+                server.send(command);
+                state = QStringLiteral("sent");
             }
-            inverted = patternMismatch(frame(), QSize(640, 480), true);
-            if (inverted.isEmpty())
-                inverted = QStringLiteral("on screen: ") + patternMismatch(screenReader.frameArea(viewer, QSize(640, 480)), QSize(640, 480), true);
+        };
+        // Empty when the frame and the screen both show the pattern; otherwise where they differ.
+        auto mismatchShown = [&](QSize size, bool inverse) {
+            if (const QString inFrame = patternMismatch(frame(), size, inverse); !inFrame.isEmpty())
+                return inFrame;
+            const QString onScreen = patternMismatch(screenReader.frameArea(viewer, size), size, inverse);
+            return onScreen.isEmpty() ? QString() : QStringLiteral("on screen: ") + onScreen;
+        };
+        script.add("the inverted pattern", [&] {
+            sendOnce(inverted, "invert");
+            inverted = mismatchShown(QSize(640, 480), true);
             sharedFrames = X11ShmPresenter::instance().isShared(frame());
-            return inverted == QLatin1String("on screen: ");
+            return inverted.isEmpty();
         });
         script.add("the new size", [&] {
-            if (resized.isNull()) {
-                server.send("resize 800 600");
-                resized = QStringLiteral("sent");
-            }
+            sendOnce(resized, "resize 800 600");
             resized = patternMismatch(frame(), QSize(800, 600), true);
             return resized.isEmpty();
         });
         // Smaller than the window, the frame is centred: the changed part goes to the same place.
         script.add("the pattern back at the new size", [&] {
-            if (invertedBack.isNull()) {
-                server.send("invert");
-                invertedBack = QStringLiteral("sent");
-            }
-            invertedBack = patternMismatch(frame(), QSize(800, 600), false);
-            if (invertedBack.isEmpty())
-                invertedBack = QStringLiteral("on screen: ") + patternMismatch(screenReader.frameArea(viewer, QSize(800, 600)), QSize(800, 600), false);
-            return invertedBack == QLatin1String("on screen: ");
+            sendOnce(invertedBack, "invert");
+            invertedBack = mismatchShown(QSize(800, 600), false);
+            return invertedBack.isEmpty();
         });
         script.add("the server gone", [&] {
             if (frameBeforeClose.isNull()) {
