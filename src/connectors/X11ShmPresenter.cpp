@@ -56,11 +56,12 @@ bool X11ShmPresenter::connected()
     const xcb_setup_t* setup = xcb_get_setup(connection);
     const bool ourByteOrder = setup->image_byte_order
         == (Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? XCB_IMAGE_ORDER_LSB_FIRST : XCB_IMAGE_ORDER_MSB_FIRST);
+    uint8_t depth24Bpp = 0; // bits per pixel the server uses for depth 24
     for (auto formats = xcb_setup_pixmap_formats_iterator(setup); formats.rem; xcb_format_next(&formats))
         if (formats.data->depth == 24)
-            m_depth24Bpp = formats.data->bits_per_pixel;
+            depth24Bpp = formats.data->bits_per_pixel;
     Reply<xcb_shm_query_version_reply_t> shm(xcb_shm_query_version_reply(connection, xcb_shm_query_version(connection), nullptr));
-    if (!shm || !ourByteOrder || m_depth24Bpp != 32) {
+    if (!shm || !ourByteOrder || depth24Bpp != 32) {
         qInfo() << "VNC frames are painted by the toolkit (no shared memory with this X server)";
         xcb_disconnect(connection);
         return false;
@@ -71,11 +72,13 @@ bool X11ShmPresenter::connected()
 
 QImage X11ShmPresenter::allocateFrame(const QSize& size)
 {
-    if (!s_enabled || size.isEmpty() || !m_attachOk || !connected()) {
+    const auto plainFrame = [&size] {
         QImage plain(size, QImage::Format_RGB32);
         plain.fill(Qt::black);
         return plain;
-    }
+    };
+    if (!s_enabled || size.isEmpty() || !m_attachOk || !connected())
+        return plainFrame();
     const int stride = size.width() * 4;
     const int id = shmget(IPC_PRIVATE, size_t(stride) * size_t(size.height()), IPC_CREAT | 0600);
     void* address = id < 0 ? reinterpret_cast<void*>(-1) : shmat(id, nullptr, 0);
@@ -84,7 +87,7 @@ QImage X11ShmPresenter::allocateFrame(const QSize& size)
             shmctl(id, IPC_RMID, nullptr);
         qWarning() << "no shared memory for a" << size << "frame";
         s_enabled = false;
-        return allocateFrame(size);
+        return plainFrame();
     }
     auto* segment = new Segment;
     segment->id = xcb_generate_id(m_connection);
@@ -99,14 +102,14 @@ QImage X11ShmPresenter::allocateFrame(const QSize& size)
         shmdt(address);
         delete segment;
         m_attachOk = false;
-        return allocateFrame(size);
+        return plainFrame();
     }
     if (!m_probed && !sharesMemory(segment->id, static_cast<uint32_t*>(address))) {
         // The server attached something, but not our memory (it runs in another IPC namespace).
         qInfo() << "VNC frames are painted by the toolkit (the X server does not see our shared memory)";
-        release(segment, false);
+        release(segment);
         m_attachOk = false;
-        return allocateFrame(size);
+        return plainFrame();
     }
     m_probed = true;
     m_segments.push_back(segment);
@@ -140,14 +143,9 @@ bool X11ShmPresenter::sharesMemory(uint32_t segment, uint32_t* pixels)
 
 void X11ShmPresenter::release(void* info)
 {
-    release(static_cast<Segment*>(info), true);
-}
-
-void X11ShmPresenter::release(Segment* segment, bool listed)
-{
+    auto* segment = static_cast<Segment*>(info);
     X11ShmPresenter& self = instance();
-    if (listed)
-        self.m_segments.erase(std::remove(self.m_segments.begin(), self.m_segments.end(), segment), self.m_segments.end());
+    self.m_segments.erase(std::remove(self.m_segments.begin(), self.m_segments.end(), segment), self.m_segments.end());
     xcb_shm_detach(self.m_connection, segment->id);
     xcb_flush(self.m_connection);
     shmdt(segment->bits);

@@ -52,15 +52,13 @@ private:
     bool checkWindow(WId window);
     const Segment* segmentFor(const QImage& frame) const;
     bool sharesMemory(uint32_t segment, uint32_t* pixels);
-    static void release(void* segment);
-    static void release(Segment* segment, bool listed);
+    static void release(void* segment); // also the frame image's cleanup function
 
     static bool s_enabled;
     xcb_connection_t* m_connection = nullptr;
     bool m_tried = false;    // connecting is attempted once
     bool m_attachOk = true;  // false once the server could not attach our memory (a remote server)
     bool m_probed = false;   // the server was seen reading the memory we wrote
-    uint8_t m_depth24Bpp = 0; // bits per pixel the server uses for depth 24
     std::vector<Segment*> m_segments;
     Target m_target;
 };
