@@ -3,6 +3,7 @@
 #include "APIManager.h"
 #include "AtomicFile.h"
 #include "ConnectionManager.h"
+#include "SettingsChange.h"
 #include "SystemPaths.h"
 
 #include <QDebug>
@@ -36,12 +37,6 @@ bool replaceFromSet(const QString& source, const QString& target)
     return AtomicFile::write(target, file.readAll());
 }
 
-SettingsManager::SettingsReporter& settingsReporter()
-{
-    static SettingsManager::SettingsReporter reporter;
-    return reporter;
-}
-
 void reloadAfterImport(const QString& key)
 {
     if (key == QLatin1String("connections"))
@@ -65,11 +60,6 @@ const QList<SettingsManager::Item>& SettingsManager::items()
         {"wallpaperSettings", "wallpaper", true},
     };
     return list;
-}
-
-void SettingsManager::setSettingsReporter(SettingsReporter reporter)
-{
-    settingsReporter() = std::move(reporter);
 }
 
 QString SettingsManager::setFolderName(const QString& terminalId, const QDateTime& when)
@@ -138,8 +128,7 @@ void SettingsManager::importConfig(const QString& path)
         reloadAfterImport(key);
     }
     m_selection.clear();
-    if (settingsReporter())
-        settingsReporter()();
+    SettingsChange::report();
     emit importFinished(copied, missing);
 }
 

@@ -36,8 +36,6 @@ public:
     static QString setFolderName(const QString& terminalId, const QDateTime& when);
 
     // Who is asked to report the settings again after every import (the management-server client).
-    using SettingsReporter = std::function<void()>;
-    static void setSettingsReporter(SettingsReporter reporter);
 
 signals:
     // folder is the set folder; copied counts the groups written into it.

@@ -12,6 +12,7 @@
 #include "QmlRegistration.h"
 #include "RawImageProvider.h"
 #include "RenderingSetup.h"
+#include "SettingsChange.h"
 #include "SettingsManager.h"
 #include "ShellOptions.h"
 #include "SystemPaths.h"
@@ -78,7 +79,7 @@ void connectAgent()
         return CertificatesStorage::addCertificateFromServer(name, cert, pass) == QLatin1String("ok");
     };
     APIManager::setServices(services);
-    SettingsManager::setSettingsReporter([] { APIManager::getInstance()->updateSettings(); });
+    SettingsChange::setReporter([] { APIManager::getInstance()->updateSettings(); });
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ConnectionManager.h"
 #include "FakeCommandRunner.h"
+#include "SettingsChange.h"
 #include "SettingsManager.h"
 #include "TestSandbox.h"
 
@@ -221,7 +222,7 @@ private slots:
     void importWithNothingChosenChangesNothing()
     {
         int reports = 0;
-        SettingsManager::setSettingsReporter([&reports] { ++reports; });
+        SettingsChange::setReporter([&reports] { ++reports; });
         const QString set = drive() + QStringLiteral("/set");
         TestSandbox::writeFile(set + QStringLiteral("/display.ini"), "other");
         const auto before = snapshot(m_sandbox->path(QStringLiteral("/data/norbix")));
@@ -233,7 +234,7 @@ private slots:
         QCOMPARE(finished.first().at(0).toInt(), 0);
         // The server is still asked for a fresh report.
         QCOMPARE(reports, 1);
-        SettingsManager::setSettingsReporter({});
+        SettingsChange::setReporter({});
     }
 
     void importedConnectionsReachTheScreens()
