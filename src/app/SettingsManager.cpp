@@ -37,6 +37,12 @@ bool replaceFromSet(const QString& source, const QString& target)
     return AtomicFile::write(target, file.readAll());
 }
 
+SettingsManager::Clock& clockSource()
+{
+    static SettingsManager::Clock instance;
+    return instance;
+}
+
 void reloadAfterImport(const QString& key)
 {
     if (key == QLatin1String("connections"))
@@ -67,6 +73,11 @@ QString SettingsManager::setFolderName(const QString& terminalId, const QDateTim
     return terminalId + QLatin1Char('-') + when.toString(QStringLiteral("dd-MM-yyyy-hh-mm-ss"));
 }
 
+void SettingsManager::setClock(Clock newClock)
+{
+    clockSource() = std::move(newClock);
+}
+
 void SettingsManager::selection(const QString& type, bool selected)
 {
     m_selection.insert(type, selected);
@@ -75,7 +86,8 @@ void SettingsManager::selection(const QString& type, bool selected)
 void SettingsManager::exportConfig(const QString& path)
 {
     qInfo() << "Export config";
-    const QString set = path + QLatin1Char('/') + setFolderName(APIManager::getInstance()->getId(), QDateTime::currentDateTime());
+    const QString set = path + QLatin1Char('/') + setFolderName(APIManager::getInstance()->getId(),
+                                                                    clockSource() ? clockSource()() : QDateTime::currentDateTime());
     QDir().mkdir(set); // an export within the same second reuses the folder
     if (!QFileInfo(set).isDir()) {
         qWarning().noquote() << "Cannot create" << set;

@@ -35,7 +35,9 @@ public:
 
     static QString setFolderName(const QString& terminalId, const QDateTime& when);
 
-    // Who is asked to report the settings again after every import (the management-server client).
+    // Where the time in a set's name comes from (tests pin it; empty restores the system clock).
+    using Clock = std::function<QDateTime()>;
+    static void setClock(Clock clock);
 
 signals:
     // folder is the set folder; copied counts the groups written into it.
