@@ -5,6 +5,7 @@
 #include "Updater.h"
 
 #include <QDebug>
+#include <QDir>
 #include <QFile>
 
 namespace {
@@ -47,4 +48,13 @@ void migrateFiles()
     }
 
     writeSuspendScript();
+}
+
+void removeStaleLocks()
+{
+    const QDir data(SystemPaths::dataFile(QString()));
+    for (const QString& name : data.entryList({QStringLiteral("*.lock")}, QDir::Files | QDir::Hidden)) {
+        qWarning().noquote() << "Removing stale lock" << name;
+        QFile::remove(data.filePath(name));
+    }
 }

@@ -103,6 +103,7 @@ int runShell(int argc, char* argv[])
     qWarning("migrateFiles()");
     migrateFiles();
     qWarning("migrateFiles() end");
+    removeStaleLocks();
 
     qWarning("Version: %s", kVersion);
 

@@ -119,6 +119,7 @@ private slots:
         QTest::newRow("font missing") << "font";
         QTest::newRow("data directory is a file") << "datafile";
         QTest::newRow("log directory is a file") << "logs";
+        QTest::newRow("INI lock left by a power cut") << "lock";
     }
     void startsAnyway()
     {
@@ -136,12 +137,20 @@ private slots:
         }
         if (damage == QLatin1String("logs"))
             TestSandbox::writeFile(terminal.sandbox.home() + QStringLiteral("/logs"), "not a directory");
+        // The lock of a writer that held this very process number: only its age would free it.
+        const QString lock = terminal.sandbox.dataFile(QStringLiteral("api.ini.lock"));
+        if (damage == QLatin1String("lock"))
+            TestSandbox::writeFile(lock, "1\nnorbix-shell\n\n");
 
         const ShellRun run = terminal.start();
         QVERIFY2(run.exitCode == 0, run.err.constData());
         QCOMPARE(QImage(terminal.screenshot()).size(), QSize(1280, 720));
         if (damage == QLatin1String("font"))
             QVERIFY(run.out.contains("Cannot load the font quarnos.ttf"));
+        if (damage == QLatin1String("lock")) {
+            QVERIFY(!QFile::exists(lock));
+            QVERIFY(terminal.log().contains(QStringLiteral("Removing stale lock api.ini.lock")));
+        }
     }
 };
 

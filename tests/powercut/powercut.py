@@ -1,0 +1,214 @@
+#!/usr/bin/python3
+"""Power cuts at random moments: every file the shell writes must be its old or its new version.
+
+Two kinds of victims, each killed with SIGKILL at a random moment while it writes:
+  shell   the real norbix-shell in the simulated terminal, managed by a server of ours that sends it
+          catalogue after catalogue ("getConnections" with data), each one acknowledged before the next
+  driver  powercut_driver, which writes every other file through the shell's own backends, one
+          generation after another
+After every kill, `powercut_driver check` reads what is on disk with the shell's readers; each file
+must hold the version written last before the kill or the one being written at that moment.
+
+  powercut.py --build BUILD_DIR [--kills 1000] [--seed N]
+Prints one line per failure and a summary; exits 1 on any corrupt, lost or mixed file.
+"""
+
+import argparse
+import asyncio
+import json
+import os
+import random
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+import websockets
+
+
+class Harness:
+    def __init__(self, build, rng):
+        self.build = build
+        self.rng = rng
+        self.driver = os.path.join(build, "tests", "powercut_driver")
+        self.shell = os.path.join(build, "src", "norbix-shell")
+        self.failures = []
+        self.kills = {"shell": 0, "driver": 0}
+        self.writes = {"shell": 0, "driver": 0}
+        self.strays = set()
+
+    def environment(self, root):
+        env = dict(os.environ)
+        env.update(NORBIX_SIMULATE="1", NORBIX_ROOT=root, HOME=os.path.join(root, "home"),
+                   QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8", LANG="C.UTF-8")
+        env.pop("NORBIX_COMMAND_LOG", None)
+        return env
+
+    def check(self, root):
+        """{(subject, file): ("GEN", g) | ("ABSENT",) | ("CORRUPT", reason)} as the driver reads it."""
+        out = subprocess.run([self.driver, "check"], env=self.environment(root), capture_output=True,
+                             text=True, timeout=60, check=True).stdout
+        return self.parse_check(root, out)
+
+    async def check_async(self, root):
+        return await asyncio.get_running_loop().run_in_executor(None, self.check, root)
+
+    def parse_check(self, root, out):
+        found = {}
+        for line in out.splitlines():
+            words = line.split(" ", 4)
+            if words[0] == "FILE":
+                state = words[3]
+                found[(words[1], words[2])] = (state, int(words[4])) if state == "GEN" else (state, " ".join(words[4:]))
+            elif words[0] == "STRAY":
+                self.strays.add(os.path.relpath(line[6:], root))
+        return found
+
+    def fail(self, kind, cycle, text):
+        self.failures.append(f"{kind} kill {cycle}: {text}")
+        print(f"FAIL {kind} kill {cycle}: {text}", flush=True)
+
+    def judge(self, kind, cycle, found, allowed, subjects):
+        """allowed: {subject: set of generations (None for "not written yet")}."""
+        for (subject, file), state in found.items():
+            if subject not in subjects:
+                continue
+            if state[0] == "CORRUPT":
+                self.fail(kind, cycle, f"{file} is corrupt: {state[1]}")
+            elif subject == "export":
+                continue  # a count of sets, each checked whole
+            elif state[0] == "ABSENT":
+                if None not in allowed.get(subject, {None}):
+                    self.fail(kind, cycle, f"{file} is gone")
+            elif state[1] not in allowed.get(subject, set()):
+                self.fail(kind, cycle, f"{file} holds generation {state[1]}, expected one of "
+                                       f"{sorted(g for g in allowed.get(subject, set()) if g is not None)}")
+
+    # --- the driver ----------------------------------------------------------------------------
+
+    def driver_kills(self, count):
+        with tempfile.TemporaryDirectory(prefix="powercut-driver-") as root:
+            os.makedirs(os.path.join(root, "home"))
+            os.makedirs(os.path.join(root, "data", "norbix"))
+            with open(os.path.join(root, "data", "norbix", "api.ini"), "w") as seed:
+                seed.write("[General]\nEnabled=false\nURL=ws://127.0.0.1:1/api/v1/ws\n")
+            on_disk = {}  # subject -> generation found after the last kill
+            generation = 1
+            for cycle in range(1, count + 1):
+                process = subprocess.Popen([self.driver, "write", str(generation)], env=self.environment(root),
+                                           stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+                time.sleep(self.rng.uniform(0.005, 0.3))
+                process.send_signal(signal.SIGKILL)
+                lines = process.stdout.read().splitlines()
+                process.wait()
+                self.kills["driver"] += 1
+                done, begun = {}, {}
+                for line in lines:
+                    words = line.split()
+                    if len(words) == 3 and words[0] in ("BEGIN", "DONE"):
+                        (begun if words[0] == "BEGIN" else done)[words[1]] = int(words[2])
+                        generation = max(generation, int(words[2]) + 1)
+                        if words[0] == "DONE":
+                            self.writes["driver"] += 1
+                allowed = {}
+                for subject in set(on_disk) | set(begun):
+                    options = {done[subject]} if subject in done else {on_disk.get(subject)}
+                    if subject in begun and begun[subject] != done.get(subject):
+                        options.add(begun[subject])
+                    allowed[subject] = options
+                found = self.check(root)
+                self.judge("driver", cycle, found, allowed, {s for s, _ in found})
+                for (subject, _), state in found.items():
+                    if state[0] == "GEN":
+                        on_disk[subject] = state[1]
+
+    # --- the shell -----------------------------------------------------------------------------
+
+    @staticmethod
+    def catalogue(generation):
+        return [{"Type": "RDP", "Name": f"pc-{generation}-{i}", "Address": f"10.1.{generation % 250}.{i}",
+                 "AccountUsername": "user", "AccountPassword": f"pw-{generation}"}
+                for i in range(1 + generation % 4)]
+
+    async def shell_kills(self, count):
+        sessions = asyncio.Queue()
+
+        async def session(websocket, path=None):
+            await sessions.put(websocket)
+            await websocket.wait_closed()
+
+        async with websockets.serve(session, "127.0.0.1", 0, max_size=None) as server:
+            port = server.sockets[0].getsockname()[1]
+            with tempfile.TemporaryDirectory(prefix="powercut-shell-") as root:
+                os.makedirs(os.path.join(root, "home"))
+                os.makedirs(os.path.join(root, "data", "norbix"))
+                with open(os.path.join(root, "data", "norbix", "api.ini"), "w") as seed:
+                    seed.write(f"[General]\nEnabled=true\nURL=ws://127.0.0.1:{port}/api/v1/ws\n")
+                on_disk = None
+                generation = 1
+                for cycle in range(1, count + 1):
+                    acked, sent, generation = await self.shell_cycle(root, sessions, generation)
+                    self.kills["shell"] += 1
+                    allowed = {"catalogue": {acked if acked is not None else on_disk, sent}}
+                    found = await self.check_async(root)
+                    self.judge("shell", cycle, found, allowed, {"catalogue"})
+                    state = found.get(("catalogue", "connections.json"))
+                    if state and state[0] == "GEN":
+                        on_disk = state[1]
+
+    async def shell_cycle(self, root, sessions, generation):
+        """Starts the shell, feeds it catalogues until a random moment, kills it; returns the last
+        acknowledged and the last sent generation and the next one to use."""
+        # Started and reaped outside asyncio: its child watcher and a SIGKILL from elsewhere disagree.
+        process = subprocess.Popen([self.shell, "--size", "800x600"], env=self.environment(root), cwd=self.build,
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        loop = asyncio.get_running_loop()
+        acked = sent = None
+        try:
+            websocket = await asyncio.wait_for(sessions.get(), 60)
+            await websocket.send(json.dumps({"action": "auth", "id": 0}))
+            killer = loop.call_later(self.rng.uniform(0.0, 0.5), process.kill)
+            try:
+                while True:
+                    sent = generation
+                    generation += 1
+                    await websocket.send(json.dumps({"action": "getConnections", "id": sent,
+                                                     "data": self.catalogue(sent)}))
+                    while True:
+                        frame = json.loads(await websocket.recv())
+                        if frame.get("action") == "getConnections" and frame.get("id") == sent:
+                            acked = sent
+                            self.writes["shell"] += 1
+                            break
+            except websockets.ConnectionClosed:
+                pass
+            finally:
+                killer.cancel()
+        finally:
+            process.kill()
+            await loop.run_in_executor(None, process.wait)
+        return acked, sent, generation
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--build", required=True)
+    parser.add_argument("--kills", type=int, default=1000, help="in total, half of them of the shell")
+    parser.add_argument("--seed", type=int, default=None)
+    args = parser.parse_args()
+    seed = args.seed if args.seed is not None else random.randrange(1 << 30)
+    harness = Harness(os.path.abspath(args.build), random.Random(seed))
+    started = time.monotonic()
+    shell_kills = args.kills // 2
+    asyncio.run(harness.shell_kills(shell_kills))
+    harness.driver_kills(args.kills - shell_kills)
+    print(f"POWERCUT seed={seed} kills={sum(harness.kills.values())} (shell {harness.kills['shell']}, "
+          f"driver {harness.kills['driver']}) writes completed: shell {harness.writes['shell']}, driver "
+          f"{harness.writes['driver']}; corrupt or lost: {len(harness.failures)}; stray temporary files: "
+          f"{len(harness.strays)} {sorted(harness.strays)[:5]}; {time.monotonic() - started:.0f} s", flush=True)
+    return 1 if harness.failures else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
