@@ -135,7 +135,7 @@ bool VNCConnector::initConnection(const Connection& connection)
         return false;
     }
 
-    auto* view = new ViewDialog; // one window per session, kept after it closes
+    auto* view = new ViewDialog; // one window per session
     if (connection.getBool(QStringLiteral("shrink")))
         view->setShrink(true);
     if (connection.getBool(QStringLiteral("fullscreen")))
@@ -145,6 +145,9 @@ bool VNCConnector::initConnection(const Connection& connection)
     const QScreen* screen = QGuiApplication::primaryScreen();
     view->setGeometry(VncInput::windowGeometry(screen ? screen->size() : QSize(), connection.getInt(QStringLiteral("percentage"))));
     view->connectView(this);
+    // The session loop has ended: the window is closed. Without this every session would keep its
+    // window and last frame for the rest of the shell's life.
+    view->deleteLater();
     return true;
 }
 

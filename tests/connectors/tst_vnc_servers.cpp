@@ -240,7 +240,11 @@ private slots:
         m_sandbox = new TestSandbox;
         VNCConnector::setNetworkTimeout(2);
     }
-    void cleanupTestCase() { delete m_sandbox; }
+    void cleanupTestCase()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the closed viewers
+        delete m_sandbox;
+    }
 
     // Addresses that cannot name a server: refused at once, no window. Nothing in this suite listens
     // on 5900, the port an address without one is checked on.
