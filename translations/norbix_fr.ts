@@ -2132,7 +2132,7 @@
     <message>
         <location line="+153"/>
         <source>Advanced settings</source>
-        <translation>Paramètres avancés</translation>
+        <translation>Mode avancé</translation>
     </message>
     <message>
         <location line="+10"/>

@@ -2150,12 +2150,12 @@
     <message>
         <location line="+12"/>
         <source>Lock</source>
-        <translation>Заблокировать</translation>
+        <translation>Выйти</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Unlock</source>
-        <translation>Разблокировать</translation>
+        <translation>Войти</translation>
     </message>
 </context>
 <context>
