@@ -149,7 +149,7 @@
     <message>
         <location line="+1"/>
         <source>Store address, e.g. https://citrix.example.com</source>
-        <translation>Adresse du magasin, p. ex. https://citrix.example.com</translation>
+        <translation>Magasin, p. ex. https://citrix.example.com</translation>
     </message>
     <message>
         <location line="+10"/>
@@ -2410,7 +2410,7 @@
     <message>
         <location line="+1"/>
         <source>Connection server, e.g. horizon.example.com</source>
-        <translation>Serveur de connexion, p. ex. horizon.example.com</translation>
+        <translation>Serveur, p. ex. horizon.example.com</translation>
     </message>
     <message>
         <location line="+11"/>
@@ -2470,7 +2470,7 @@
     <message>
         <location line="+1"/>
         <source>Optional: the desktop pool to open</source>
-        <translation>Facultatif&#xa0;: le pool de bureaux à ouvrir</translation>
+        <translation>Facultatif&#xa0;: pool de bureaux à ouvrir</translation>
     </message>
 </context>
 </TS>

@@ -86,7 +86,7 @@
     <message>
         <location line="+1"/>
         <source>Nothing from earlier visits is kept: no history, cookies or cache.</source>
-        <translation>От прошлых посещений ничего не сохраняется: ни журнала, ни cookie, ни кэша.</translation>
+        <translation>От прошлых посещений ничего не сохраняется: ни истории, ни cookie, ни кэша.</translation>
     </message>
 </context>
 <context>
@@ -149,7 +149,7 @@
     <message>
         <location line="+1"/>
         <source>Store address, e.g. https://citrix.example.com</source>
-        <translation>Адрес магазина, например, https://citrix.example.com</translation>
+        <translation>Магазин, напр. https://citrix.example.com</translation>
     </message>
     <message>
         <location line="+10"/>
@@ -2413,7 +2413,7 @@
     <message>
         <location line="+1"/>
         <source>Connection server, e.g. horizon.example.com</source>
-        <translation>Сервер подключений, например, horizon.example.com</translation>
+        <translation>Сервер, напр. horizon.example.com</translation>
     </message>
     <message>
         <location line="+11"/>
@@ -2473,7 +2473,7 @@
     <message>
         <location line="+1"/>
         <source>Optional: the desktop pool to open</source>
-        <translation>Необязательно: открываемый пул рабочих столов</translation>
+        <translation>Необязательно: пул рабочих столов</translation>
     </message>
 </context>
 </TS>
