@@ -629,7 +629,7 @@
     <message>
         <location line="+20"/>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2241,7 +2241,7 @@
     <message>
         <location line="+37"/>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <location line="+10"/>
