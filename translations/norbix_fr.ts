@@ -1449,7 +1449,7 @@
     <message>
         <location line="+4"/>
         <source>Support desk</source>
-        <translation>Assistance</translation>
+        <translation>Service d&apos;assistance</translation>
     </message>
     <message>
         <location line="+0"/>
@@ -1753,7 +1753,7 @@
     <message>
         <location filename="../qml/vorplex/RDPLoginDialog.qml" line="+32"/>
         <source>Sign in</source>
-        <translation>Se connecter</translation>
+        <translation>Identification</translation>
     </message>
     <message>
         <location line="+3"/>
