@@ -4,87 +4,87 @@
 <context>
     <name>AddBrowserConnection</name>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="26"/>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="+26"/>
         <source>Connection name can&apos;t be empty</source>
         <translation>Der Verbindungsname darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="27"/>
+        <location line="+1"/>
         <source>Server address can&apos;t be empty</source>
         <translation>Die Serveradresse darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="37"/>
+        <location line="+10"/>
         <source>Edit Browser Connection</source>
         <translation>Browser-Verbindung bearbeiten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="37"/>
+        <location line="+0"/>
         <source>Add Browser Connection</source>
         <translation>Browser-Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="38"/>
+        <location line="+1"/>
         <source>A web site or web application in the browser.</source>
         <translation>Eine Website oder Webanwendung im Browser.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="40"/>
+        <location line="+2"/>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="40"/>
+        <location line="+0"/>
         <source>Add connection</source>
         <translation>Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="68"/>
+        <location line="+28"/>
         <source>Connection</source>
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="81"/>
+        <location line="+13"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="82"/>
+        <location line="+1"/>
         <source>Shown on the home screen</source>
         <translation>Wird auf dem Startbildschirm angezeigt</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="93"/>
+        <location line="+11"/>
         <source>Site</source>
         <translation>Website</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="94"/>
+        <location line="+1"/>
         <source>e.g. https://intranet.example.com</source>
         <translation>z. B. https://intranet.example.com</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="104"/>
+        <location line="+10"/>
         <source>Browser</source>
         <translation>Browser</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="112"/>
+        <location line="+8"/>
         <source>Kiosk mode</source>
         <translation>Kioskmodus</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="113"/>
+        <location line="+1"/>
         <source>Full screen, without address bar, tabs or menus.</source>
         <translation>Vollbild ohne Adressleiste, Tabs oder Menüs.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="121"/>
+        <location line="+8"/>
         <source>Private window</source>
         <translation>Privates Fenster</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="122"/>
+        <location line="+1"/>
         <source>Nothing from earlier visits is kept: no history, cookies or cache.</source>
         <translation>Von früheren Besuchen bleibt nichts erhalten: kein Verlauf, keine Cookies, kein Cache.</translation>
     </message>
@@ -92,123 +92,123 @@
 <context>
     <name>AddCitrixConnection</name>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="29"/>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="+29"/>
         <source>Server address can&apos;t be empty</source>
         <translation>Die Serveradresse darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="34"/>
+        <location line="+5"/>
         <source>Connection name can&apos;t be empty</source>
         <translation>Der Verbindungsname darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="54"/>
+        <location line="+20"/>
         <source>Edit Citrix Connection</source>
         <translation>Citrix-Verbindung bearbeiten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="54"/>
+        <location line="+0"/>
         <source>Add Citrix Connection</source>
         <translation>Citrix-Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="55"/>
+        <location line="+1"/>
         <source>A published desktop or application from a Citrix store.</source>
         <translation>Ein veröffentlichter Desktop oder eine Anwendung aus einem Citrix-Store.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="57"/>
+        <location line="+2"/>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="57"/>
+        <location line="+0"/>
         <source>Add connection</source>
         <translation>Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="92"/>
+        <location line="+35"/>
         <source>Connection</source>
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="105"/>
+        <location line="+13"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="106"/>
+        <location line="+1"/>
         <source>Shown on the home screen</source>
         <translation>Wird auf dem Startbildschirm angezeigt</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="117"/>
+        <location line="+11"/>
         <source>Server address</source>
         <translation>Serveradresse</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="118"/>
+        <location line="+1"/>
         <source>Store address, e.g. https://citrix.example.com</source>
         <translation>Store-Adresse, z. B. https://citrix.example.com</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="128"/>
+        <location line="+10"/>
         <source>Credentials</source>
         <translation>Anmeldedaten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="133"/>
+        <location line="+5"/>
         <source>Remember credentials</source>
         <translation>Anmeldedaten speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="140"/>
+        <location line="+7"/>
         <source>User name and password are saved with the connection.</source>
         <translation>Benutzername und Passwort werden mit der Verbindung gespeichert.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="141"/>
+        <location line="+1"/>
         <source>User name and password are only used to browse resources and are not saved.</source>
         <translation>Benutzername und Passwort dienen nur zum Durchsuchen der Ressourcen und werden nicht gespeichert.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="155"/>
+        <location line="+14"/>
         <source>User name</source>
         <translation>Benutzername</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="165"/>
+        <location line="+10"/>
         <source>Password</source>
         <translation>Passwort</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="173"/>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="187"/>
+        <location line="+8"/>
+        <location line="+14"/>
         <source>Resource</source>
         <translation>Ressource</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="174"/>
+        <location line="-13"/>
         <source>The desktop or application this connection opens.</source>
         <translation>Der Desktop oder die Anwendung, die diese Verbindung öffnet.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="179"/>
+        <location line="+5"/>
         <source>Desktop</source>
         <translation>Desktop</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="180"/>
+        <location line="+1"/>
         <source>Optional</source>
         <translation>Optional</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="188"/>
+        <location line="+8"/>
         <source>Name as the store lists it</source>
         <translation>Name, wie er im Store aufgeführt ist</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="193"/>
+        <location line="+5"/>
         <source>Browse resources</source>
         <translation>Ressourcen durchsuchen</translation>
     </message>
@@ -216,68 +216,68 @@
 <context>
     <name>AddPuttyConnection</name>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="26"/>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="+26"/>
         <source>Connection name can&apos;t be empty</source>
         <translation>Der Verbindungsname darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="35"/>
+        <location line="+9"/>
         <source>Edit PuTTY Connection</source>
         <translation>PuTTY-Verbindung bearbeiten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="35"/>
+        <location line="+0"/>
         <source>Add PuTTY Connection</source>
         <translation>PuTTY-Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="36"/>
+        <location line="+1"/>
         <source>A terminal session to a server or network device.</source>
         <translation>Eine Terminalsitzung zu einem Server oder Netzwerkgerät.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="38"/>
+        <location line="+2"/>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="38"/>
+        <location line="+0"/>
         <source>Add connection</source>
         <translation>Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="64"/>
+        <location line="+26"/>
         <source>Connection</source>
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="69"/>
+        <location line="+5"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="70"/>
+        <location line="+1"/>
         <source>Shown on the home screen</source>
         <translation>Wird auf dem Startbildschirm angezeigt</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="87"/>
+        <location line="+17"/>
         <source>Host</source>
         <translation>Host</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="88"/>
+        <location line="+1"/>
         <source>Host name or IP address</source>
         <translation>Hostname oder IP-Adresse</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="89"/>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="100"/>
+        <location line="+1"/>
+        <location line="+11"/>
         <source>Optional</source>
         <translation>Optional</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="99"/>
+        <location line="-1"/>
         <source>User name</source>
         <translation>Benutzername</translation>
     </message>
@@ -285,209 +285,209 @@
 <context>
     <name>AddRDPConnection</name>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="38"/>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="+38"/>
         <source>Connection name can&apos;t be empty</source>
         <translation>Der Verbindungsname darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="39"/>
+        <location line="+1"/>
         <source>Server address can&apos;t be empty</source>
         <translation>Die Serveradresse darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="49"/>
+        <location line="+10"/>
         <source>Edit RDP Connection</source>
         <translation>RDP-Verbindung bearbeiten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="49"/>
+        <location line="+0"/>
         <source>Add RDP Connection</source>
         <translation>RDP-Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="50"/>
+        <location line="+1"/>
         <source>A Windows desktop or server reached over Remote Desktop.</source>
         <translation>Ein Windows-Desktop oder -Server, der über Remotedesktop erreicht wird.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="52"/>
+        <location line="+2"/>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="52"/>
+        <location line="+0"/>
         <source>Add connection</source>
         <translation>Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="90"/>
+        <location line="+38"/>
         <source>Connection</source>
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="103"/>
+        <location line="+13"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="104"/>
+        <location line="+1"/>
         <source>Shown on the home screen</source>
         <translation>Wird auf dem Startbildschirm angezeigt</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="115"/>
+        <location line="+11"/>
         <source>Server address</source>
         <translation>Serveradresse</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="116"/>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="247"/>
+        <location line="+1"/>
+        <location line="+131"/>
         <source>Host name or IP address</source>
         <translation>Hostname oder IP-Adresse</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="126"/>
+        <location line="-121"/>
         <source>Credentials</source>
         <translation>Anmeldedaten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="131"/>
+        <location line="+5"/>
         <source>Remember credentials</source>
         <translation>Anmeldedaten speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="138"/>
+        <location line="+7"/>
         <source>The session starts without asking for a password.</source>
         <translation>Die Sitzung startet ohne Passwortabfrage.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="139"/>
+        <location line="+1"/>
         <source>User name and password are asked for each time the session starts.</source>
         <translation>Benutzername und Passwort werden bei jedem Sitzungsstart abgefragt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="153"/>
+        <location line="+14"/>
         <source>User name</source>
         <translation>Benutzername</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="163"/>
+        <location line="+10"/>
         <source>Password</source>
         <translation>Passwort</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="172"/>
+        <location line="+9"/>
         <source>Domain</source>
         <translation>Domäne</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="173"/>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="268"/>
+        <location line="+1"/>
+        <location line="+95"/>
         <source>Optional</source>
         <translation>Optional</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="181"/>
+        <location line="-87"/>
         <source>Session</source>
         <translation>Sitzung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="189"/>
+        <location line="+8"/>
         <source>Full screen</source>
         <translation>Vollbild</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="190"/>
+        <location line="+1"/>
         <source>The session fills the whole screen.</source>
         <translation>Die Sitzung füllt den ganzen Bildschirm.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="198"/>
+        <location line="+8"/>
         <source>Multi-monitor</source>
         <translation>Mehrere Bildschirme</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="199"/>
+        <location line="+1"/>
         <source>The session spans every connected display.</source>
         <translation>Die Sitzung erstreckt sich über alle angeschlossenen Bildschirme.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="207"/>
+        <location line="+8"/>
         <source>Smart card</source>
         <translation>Smartcard</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="208"/>
+        <location line="+1"/>
         <source>Sign in to the session with a smart card in this terminal&apos;s reader.</source>
         <translation>Anmeldung an der Sitzung mit einer Smartcard im Kartenleser dieses Terminals.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="216"/>
+        <location line="+8"/>
         <source>USB redirection</source>
         <translation>USB-Umleitung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="217"/>
+        <location line="+1"/>
         <source>USB devices plugged into this terminal appear in the session.</source>
         <translation>An dieses Terminal angeschlossene USB-Geräte erscheinen in der Sitzung.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="225"/>
+        <location line="+8"/>
         <source>Printer</source>
         <translation>Drucker</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="226"/>
+        <location line="+1"/>
         <source>Printers set up on this terminal can be used from the session.</source>
         <translation>Auf diesem Terminal eingerichtete Drucker sind in der Sitzung nutzbar.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="232"/>
+        <location line="+6"/>
         <source>Gateway</source>
         <translation>Gateway</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="233"/>
+        <location line="+1"/>
         <source>Only needed when the server is reached through a Remote Desktop Gateway.</source>
         <translation>Nur nötig, wenn der Server über ein Remotedesktop-Gateway erreicht wird.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="246"/>
+        <location line="+13"/>
         <source>Gateway host</source>
         <translation>Gateway-Host</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="257"/>
+        <location line="+11"/>
         <source>Gateway user name</source>
         <translation>Gateway-Benutzername</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="267"/>
+        <location line="+10"/>
         <source>Gateway domain</source>
         <translation>Gateway-Domäne</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="277"/>
+        <location line="+10"/>
         <source>Gateway password</source>
         <translation>Gateway-Passwort</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="285"/>
+        <location line="+8"/>
         <source>Performance</source>
         <translation>Leistung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="286"/>
+        <location line="+1"/>
         <source>Best quality suits fast networks; Fastest lowers colour depth and effects for slow links.</source>
         <translation>„Beste Qualität“ eignet sich für schnelle Netzwerke; „Am schnellsten“ verringert Farbtiefe und Effekte für langsame Verbindungen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="292"/>
+        <location line="+6"/>
         <source>Best quality</source>
         <translation>Beste Qualität</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddRDPConnection.qml" line="292"/>
+        <location line="+0"/>
         <source>Fastest</source>
         <translation>Am schnellsten</translation>
     </message>
@@ -495,139 +495,139 @@
 <context>
     <name>AddVNCConnection</name>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="32"/>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="+32"/>
         <source>Server address can&apos;t be empty</source>
         <translation>Die Serveradresse darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="35"/>
+        <location line="+3"/>
         <source>Enter a host name or IP address, optionally followed by a colon and a port</source>
         <translation>Geben Sie einen Hostnamen oder eine IP-Adresse ein, optional gefolgt von einem Doppelpunkt und einem Port</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="37"/>
+        <location line="+2"/>
         <source>The port must be a number from 1 to 65535</source>
         <translation>Der Port muss eine Zahl von 1 bis 65535 sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="42"/>
+        <location line="+5"/>
         <source>Connection name can&apos;t be empty</source>
         <translation>Der Verbindungsname darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="53"/>
+        <location line="+11"/>
         <source>Edit VNC Connection</source>
         <translation>VNC-Verbindung bearbeiten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="53"/>
+        <location line="+0"/>
         <source>Add VNC Connection</source>
         <translation>VNC-Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="54"/>
+        <location line="+1"/>
         <source>A remote screen shown in this terminal&apos;s own VNC viewer.</source>
         <translation>Ein entfernter Bildschirm im VNC-Viewer dieses Terminals.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="56"/>
+        <location line="+2"/>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="56"/>
+        <location line="+0"/>
         <source>Add connection</source>
         <translation>Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="88"/>
+        <location line="+32"/>
         <source>Connection</source>
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="102"/>
+        <location line="+14"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="103"/>
+        <location line="+1"/>
         <source>Shown on the home screen</source>
         <translation>Wird auf dem Startbildschirm angezeigt</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="115"/>
+        <location line="+12"/>
         <source>Server address</source>
         <translation>Serveradresse</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="116"/>
+        <location line="+1"/>
         <source>host or host:port</source>
         <translation>Host oder Host:Port</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="117"/>
+        <location line="+1"/>
         <source>Port 5900 when none is given</source>
         <translation>Port 5900, wenn keiner angegeben ist</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="127"/>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="149"/>
+        <location line="+10"/>
+        <location line="+22"/>
         <source>Password</source>
         <translation>Passwort</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="133"/>
+        <location line="-16"/>
         <source>Remember password</source>
         <translation>Passwort speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="140"/>
+        <location line="+7"/>
         <source>The password is stored encrypted on this terminal.</source>
         <translation>Das Passwort wird verschlüsselt auf diesem Terminal gespeichert.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="141"/>
+        <location line="+1"/>
         <source>The password is not stored; servers that ask for one refuse the session.</source>
         <translation>Das Passwort wird nicht gespeichert; Server, die eines verlangen, lehnen die Sitzung ab.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="157"/>
+        <location line="+16"/>
         <source>Viewer window</source>
         <translation>Viewer-Fenster</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="166"/>
+        <location line="+9"/>
         <source>Full screen</source>
         <translation>Vollbild</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="167"/>
+        <location line="+1"/>
         <source>The remote screen fills the whole display.</source>
         <translation>Der entfernte Bildschirm füllt die ganze Anzeige.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="176"/>
+        <location line="+9"/>
         <source>Shrink to fit</source>
         <translation>Verkleinern und einpassen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="177"/>
+        <location line="+1"/>
         <source>Large remote screens are scaled down to the window instead of scrolled.</source>
         <translation>Große entfernte Bildschirme werden auf das Fenster verkleinert statt gescrollt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="191"/>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="210"/>
+        <location line="+14"/>
+        <location line="+19"/>
         <source>Window size</source>
         <translation>Fenstergröße</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="196"/>
+        <location line="-14"/>
         <source>Share of this terminal&apos;s screen taken by the viewer window, from its top left corner.</source>
         <translation>Anteil des Bildschirms, den das Viewer-Fenster von der linken oberen Ecke aus einnimmt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AddVNCConnection.qml" line="216"/>
+        <location line="+20"/>
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
@@ -635,22 +635,22 @@
 <context>
     <name>AdminConnectionPopup</name>
     <message>
-        <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="19"/>
+        <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="+19"/>
         <source>Allow remote connection</source>
         <translation>Fernverbindung erlauben</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="21"/>
+        <location line="+2"/>
         <source>Accept</source>
         <translation>Annehmen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="22"/>
+        <location line="+1"/>
         <source>Reject</source>
         <translation>Ablehnen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="55"/>
+        <location line="+33"/>
         <source>Request will be accepted automatically in %1 seconds</source>
         <translation>Die Anfrage wird in %1 Sekunden automatisch angenommen</translation>
     </message>
@@ -658,27 +658,27 @@
 <context>
     <name>AdminLoginDialog</name>
     <message>
-        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="11"/>
+        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="+11"/>
         <source>Administrator access</source>
         <translation>Administratorzugriff</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="12"/>
+        <location line="+1"/>
         <source>Advanced settings are protected. Enter the administrator password to unlock them.</source>
         <translation>Die erweiterten Einstellungen sind geschützt. Geben Sie das Administratorpasswort ein, um sie zu entsperren.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="13"/>
+        <location line="+1"/>
         <source>Unlock</source>
         <translation>Entsperren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="24"/>
+        <location line="+11"/>
         <source>Wrong password. Please try again.</source>
         <translation>Falsches Passwort. Bitte erneut versuchen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="37"/>
+        <location line="+13"/>
         <source>Administrator password</source>
         <translation>Administratorpasswort</translation>
     </message>
@@ -686,52 +686,52 @@
 <context>
     <name>AdminPasswordPage</name>
     <message>
-        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="16"/>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="+16"/>
         <source>The current password is not correct.</source>
         <translation>Das aktuelle Passwort ist nicht korrekt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="20"/>
+        <location line="+4"/>
         <source>Enter a new password.</source>
         <translation>Geben Sie ein neues Passwort ein.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="23"/>
+        <location line="+3"/>
         <source>The passwords do not match.</source>
         <translation>Die Passwörter stimmen nicht überein.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="33"/>
+        <location line="+10"/>
         <source>Administrator password changed.</source>
         <translation>Administratorpasswort geändert.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="42"/>
+        <location line="+9"/>
         <source>Change administrator password</source>
         <translation>Administratorpasswort ändern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="43"/>
+        <location line="+1"/>
         <source>Anyone who knows this password can change the advanced settings of this terminal.</source>
         <translation>Wer dieses Passwort kennt, kann die erweiterten Einstellungen dieses Terminals ändern.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="49"/>
+        <location line="+6"/>
         <source>Current password</source>
         <translation>Aktuelles Passwort</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="58"/>
+        <location line="+9"/>
         <source>New password</source>
         <translation>Neues Passwort</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="67"/>
+        <location line="+9"/>
         <source>Repeat new password</source>
         <translation>Neues Passwort wiederholen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="75"/>
+        <location line="+8"/>
         <source>Change password</source>
         <translation>Passwort ändern</translation>
     </message>
@@ -739,22 +739,22 @@
 <context>
     <name>CertificatesModel</name>
     <message>
-        <location filename="../src/maintenance/CertificatesModel.cpp" line="6"/>
+        <location filename="../src/maintenance/CertificatesModel.cpp" line="+6"/>
         <source>Name</source>
         <translation>Name</translation>
     </message>
     <message>
-        <location filename="../src/maintenance/CertificatesModel.cpp" line="6"/>
+        <location line="+0"/>
         <source>Not before</source>
         <translation>Gültig ab</translation>
     </message>
     <message>
-        <location filename="../src/maintenance/CertificatesModel.cpp" line="7"/>
+        <location line="+1"/>
         <source>Not after</source>
         <translation>Gültig bis</translation>
     </message>
     <message>
-        <location filename="../src/maintenance/CertificatesModel.cpp" line="7"/>
+        <location line="+0"/>
         <source>Manage</source>
         <translation>Verwalten</translation>
     </message>
@@ -762,113 +762,113 @@
 <context>
     <name>CertificatesPage</name>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="42"/>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="+42"/>
         <source>Enter the password of the certificate file.</source>
         <translation>Geben Sie das Passwort der Zertifikatsdatei ein.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="59"/>
+        <location line="+17"/>
         <source>Result</source>
         <translation>Ergebnis</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="60"/>
+        <location line="+1"/>
         <source>Certificate added</source>
         <translation>Zertifikat hinzugefügt</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="66"/>
+        <location line="+6"/>
         <source>Error</source>
         <translation>Fehler</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="75"/>
+        <location line="+9"/>
         <source>Import a certificate</source>
         <translation>Zertifikat importieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="76"/>
+        <location line="+1"/>
         <source>Certificate files (.crt, .cer, .der, .pfx) on a USB drive. The certificate is trusted by this terminal and its sessions.</source>
         <translation>Zertifikatsdateien (.crt, .cer, .der, .pfx) auf einem USB-Laufwerk. Dieses Terminal und seine Sitzungen vertrauen dem Zertifikat.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="81"/>
+        <location line="+5"/>
         <source>Certificate file</source>
         <translation>Zertifikatsdatei</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="85"/>
+        <location line="+4"/>
         <source>No certificate files found</source>
         <translation>Keine Zertifikatsdateien gefunden</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="86"/>
+        <location line="+1"/>
         <source>Insert a USB drive with certificate files, then refresh the list.</source>
         <translation>Stecken Sie ein USB-Laufwerk mit Zertifikatsdateien ein und aktualisieren Sie die Liste.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="91"/>
+        <location line="+5"/>
         <source>Refresh file list</source>
         <translation>Dateiliste aktualisieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="101"/>
+        <location line="+10"/>
         <source>Password of the certificate file</source>
         <translation>Passwort der Zertifikatsdatei</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="111"/>
+        <location line="+10"/>
         <source>Import</source>
         <translation>Importieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="126"/>
+        <location line="+15"/>
         <source>Installed certificates</source>
         <translation>Installierte Zertifikate</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="127"/>
+        <location line="+1"/>
         <source>Authorities this terminal trusts in addition to the system&apos;s own.</source>
         <translation>Zertifizierungsstellen, denen dieses Terminal zusätzlich zu denen des Systems vertraut.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="131"/>
+        <location line="+4"/>
         <source>Refresh</source>
         <translation>Aktualisieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="139"/>
+        <location line="+8"/>
         <source>Show all certificates</source>
         <translation>Alle Zertifikate anzeigen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="203"/>
+        <location line="+64"/>
         <source>System certificate</source>
         <translation>Systemzertifikat</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="234"/>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="260"/>
+        <location line="+31"/>
+        <location line="+26"/>
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="251"/>
+        <location line="-9"/>
         <source>No certificates installed</source>
         <translation>Keine Zertifikate installiert</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="252"/>
+        <location line="+1"/>
         <source>Import a certificate from a USB drive, or show the system&apos;s certificates too.</source>
         <translation>Importieren Sie ein Zertifikat von einem USB-Laufwerk, oder lassen Sie auch die Systemzertifikate anzeigen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="258"/>
+        <location line="+6"/>
         <source>Remove certificate</source>
         <translation>Zertifikat entfernen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CertificatesPage.qml" line="259"/>
+        <location line="+1"/>
         <source>Remove %1? This terminal and its sessions will no longer trust the servers it vouches for.</source>
         <translation>%1 entfernen? Dieses Terminal und seine Sitzungen vertrauen den damit beglaubigten Servern dann nicht mehr.</translation>
     </message>
@@ -876,7 +876,7 @@
 <context>
     <name>CertificatesStorage</name>
     <message>
-        <location filename="../src/maintenance/CertificatesStorage.cpp" line="204"/>
+        <location filename="../src/maintenance/CertificatesStorage.cpp" line="+204"/>
         <source>The file name %1 has no name before its extension.</source>
         <translation>Der Dateiname %1 enthält vor der Dateiendung keinen Namen.</translation>
     </message>
@@ -884,42 +884,42 @@
 <context>
     <name>CitrixProgressPopup</name>
     <message>
-        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="55"/>
+        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="+55"/>
         <source>Citrix resources</source>
         <translation>Citrix-Ressourcen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="55"/>
+        <location line="+0"/>
         <source>Citrix</source>
         <translation>Citrix</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="60"/>
+        <location line="+5"/>
         <source>Use resource</source>
         <translation>Ressource verwenden</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="62"/>
+        <location line="+2"/>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="62"/>
+        <location line="+0"/>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="108"/>
+        <location line="+46"/>
         <source>The store offers no resources for this account.</source>
         <translation>Der Store bietet für dieses Konto keine Ressourcen an.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="171"/>
+        <location line="+63"/>
         <source>Contacting the Citrix store…</source>
         <translation>Verbindung zum Citrix-Store wird hergestellt…</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="172"/>
+        <location line="+1"/>
         <source>Starting the Citrix session…</source>
         <translation>Citrix-Sitzung wird gestartet…</translation>
     </message>
@@ -927,42 +927,42 @@
 <context>
     <name>ConnectionKinds</name>
     <message>
-        <location filename="../qml/vorplex/ConnectionKinds.qml" line="15"/>
+        <location filename="../qml/vorplex/ConnectionKinds.qml" line="+15"/>
         <source>VMware Horizon</source>
         <translation>VMware Horizon</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionKinds.qml" line="16"/>
+        <location line="+1"/>
         <source>VNC</source>
         <translation>VNC</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionKinds.qml" line="17"/>
+        <location line="+1"/>
         <source>Citrix</source>
         <translation>Citrix</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionKinds.qml" line="18"/>
+        <location line="+1"/>
         <source>Remote Desktop</source>
         <translation>Remotedesktop</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionKinds.qml" line="19"/>
+        <location line="+1"/>
         <source>Browser</source>
         <translation>Browser</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionKinds.qml" line="20"/>
+        <location line="+1"/>
         <source>Microsoft Teams</source>
         <translation>Microsoft Teams</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionKinds.qml" line="21"/>
+        <location line="+1"/>
         <source>PuTTY</source>
         <translation>PuTTY</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionKinds.qml" line="24"/>
+        <location line="+3"/>
         <source>Connection</source>
         <translation>Verbindung</translation>
     </message>
@@ -970,32 +970,32 @@
 <context>
     <name>ConnectionTableModel</name>
     <message>
-        <location filename="../src/connections/ConnectionTableModel.cpp" line="22"/>
+        <location filename="../src/connections/ConnectionTableModel.cpp" line="+22"/>
         <source>Browser</source>
         <translation>Browser</translation>
     </message>
     <message>
-        <location filename="../src/connections/ConnectionTableModel.cpp" line="91"/>
+        <location line="+69"/>
         <source>Name</source>
         <translation>Name</translation>
     </message>
     <message>
-        <location filename="../src/connections/ConnectionTableModel.cpp" line="92"/>
+        <location line="+1"/>
         <source>Type</source>
         <translation>Typ</translation>
     </message>
     <message>
-        <location filename="../src/connections/ConnectionTableModel.cpp" line="93"/>
+        <location line="+1"/>
         <source>Server Address</source>
         <translation>Serveradresse</translation>
     </message>
     <message>
-        <location filename="../src/connections/ConnectionTableModel.cpp" line="94"/>
+        <location line="+1"/>
         <source>Auto Connect</source>
         <translation>Autostart</translation>
     </message>
     <message>
-        <location filename="../src/connections/ConnectionTableModel.cpp" line="95"/>
+        <location line="+1"/>
         <source>Action</source>
         <translation>Aktion</translation>
     </message>
@@ -1003,12 +1003,12 @@
 <context>
     <name>ConnectionTile</name>
     <message>
-        <location filename="../qml/vorplex/ConnectionTile.qml" line="70"/>
+        <location filename="../qml/vorplex/ConnectionTile.qml" line="+70"/>
         <source>Auto</source>
         <translation>Autostart</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionTile.qml" line="101"/>
+        <location line="+31"/>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -1016,139 +1016,139 @@
 <context>
     <name>ConnectionsPage</name>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="12"/>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="+12"/>
         <source>Connections</source>
         <translation>Verbindungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="24"/>
+        <location line="+12"/>
         <source>RDP</source>
         <translation>RDP</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="25"/>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="176"/>
+        <location line="+1"/>
+        <location line="+151"/>
         <source>Citrix</source>
         <translation>Citrix</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="26"/>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="183"/>
+        <location line="-150"/>
+        <location line="+157"/>
         <source>VMware Horizon</source>
         <translation>VMware Horizon</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="27"/>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="190"/>
+        <location line="-156"/>
+        <location line="+163"/>
         <source>Browser</source>
         <translation>Browser</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="28"/>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="197"/>
+        <location line="-162"/>
+        <location line="+169"/>
         <source>PuTTY</source>
         <translation>PuTTY</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="29"/>
+        <location line="-168"/>
         <source>Microsoft Teams</source>
         <translation>Microsoft Teams</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="30"/>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="204"/>
+        <location line="+1"/>
+        <location line="+174"/>
         <source>VNC</source>
         <translation>VNC</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="69"/>
+        <location line="-135"/>
         <source>“%1” added.</source>
         <translation>„%1“ hinzugefügt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="69"/>
+        <location line="+0"/>
         <source>Changes to “%1” saved.</source>
         <translation>Änderungen an „%1“ gespeichert.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="85"/>
+        <location line="+16"/>
         <source>Microsoft Teams added.</source>
         <translation>Microsoft Teams hinzugefügt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="87"/>
+        <location line="+2"/>
         <source>Microsoft Teams is already in the list.</source>
         <translation>Microsoft Teams ist bereits in der Liste.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="153"/>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="467"/>
+        <location line="+66"/>
+        <location line="+314"/>
         <source>Add connection</source>
         <translation>Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="169"/>
+        <location line="-298"/>
         <source>Remote Desktop (RDP)</source>
         <translation>Remotedesktop (RDP)</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="221"/>
+        <location line="+52"/>
         <source>Add Microsoft Teams</source>
         <translation>Microsoft Teams hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="420"/>
+        <location line="+199"/>
         <source>Start automatically</source>
         <translation>Automatisch starten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="439"/>
+        <location line="+19"/>
         <source>Edit</source>
         <translation>Bearbeiten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="439"/>
+        <location line="+0"/>
         <source>Nothing to edit for this kind</source>
         <translation>Für diesen Typ gibt es nichts zu bearbeiten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="447"/>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="518"/>
+        <location line="+8"/>
+        <location line="+71"/>
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="462"/>
+        <location line="-56"/>
         <source>No connections yet</source>
         <translation>Noch keine Verbindungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="463"/>
+        <location line="+1"/>
         <source>Add a remote desktop, a web site or an application. Each connection appears as a tile on the home screen.</source>
         <translation>Fügen Sie einen entfernten Desktop, eine Website oder eine Anwendung hinzu. Jede Verbindung erscheint als Kachel auf dem Startbildschirm.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="479"/>
+        <location line="+16"/>
         <source>Applications</source>
         <translation>Anwendungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="480"/>
+        <location line="+1"/>
         <source>Kinds of connection that can be added on this terminal.</source>
         <translation>Verbindungstypen, die auf diesem Terminal hinzugefügt werden können.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="516"/>
+        <location line="+36"/>
         <source>Remove connection?</source>
         <translation>Verbindung entfernen?</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="517"/>
+        <location line="+1"/>
         <source>“%1” will be removed from this terminal, and its tile from the home screen.</source>
         <translation>„%1“ wird von diesem Terminal entfernt, die zugehörige Kachel vom Startbildschirm.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ConnectionsPage.qml" line="522"/>
+        <location line="+5"/>
         <source>“%1” removed.</source>
         <translation>„%1“ entfernt.</translation>
     </message>
@@ -1156,17 +1156,17 @@
 <context>
     <name>ExportSettingsPage</name>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="33"/>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="+33"/>
         <source>The settings could not be saved: the drive cannot be written to.</source>
         <translation>Die Einstellungen konnten nicht gespeichert werden: Das Laufwerk ist nicht beschreibbar.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="36"/>
+        <location line="+3"/>
         <source>Nothing was copied: the chosen settings do not exist on this terminal yet.</source>
         <translation>Nichts wurde kopiert: Die gewählten Einstellungen gibt es auf diesem Terminal noch nicht.</translation>
     </message>
     <message numerus="yes">
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="39"/>
+        <location line="+3"/>
         <source>%n group(s) of settings saved to %1.</source>
         <translation>
             <numerusform>%n Einstellungsgruppe in %1 gespeichert.</numerusform>
@@ -1174,42 +1174,42 @@
         </translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="47"/>
+        <location line="+8"/>
         <source>Choose what to copy to the USB drive.</source>
         <translation>Wählen Sie, was auf das USB-Laufwerk kopiert wird.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="52"/>
+        <location line="+5"/>
         <source>Destination</source>
         <translation>Ziel</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="53"/>
+        <location line="+1"/>
         <source>A new folder named after this terminal and the current time is created on the drive.</source>
         <translation>Auf dem Laufwerk wird ein neuer Ordner mit dem Namen dieses Terminals und der aktuellen Uhrzeit angelegt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="58"/>
+        <location line="+5"/>
         <source>Choose folder to export settings</source>
         <translation>Ordner für den Export wählen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="62"/>
+        <location line="+4"/>
         <source>No removable drive found</source>
         <translation>Kein Wechseldatenträger gefunden</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="63"/>
+        <location line="+1"/>
         <source>Insert a USB drive, then refresh the list.</source>
         <translation>Stecken Sie ein USB-Laufwerk ein und aktualisieren Sie die Liste.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="67"/>
+        <location line="+4"/>
         <source>Refresh drive list</source>
         <translation>Laufwerksliste aktualisieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="74"/>
+        <location line="+7"/>
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
@@ -1217,22 +1217,22 @@
 <context>
     <name>FormPage</name>
     <message>
-        <location filename="../qml/custom/NorbixUi/FormPage.qml" line="15"/>
+        <location filename="../qml/custom/NorbixUi/FormPage.qml" line="+15"/>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message>
-        <location filename="../qml/custom/NorbixUi/FormPage.qml" line="16"/>
+        <location line="+1"/>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <location filename="../qml/custom/NorbixUi/FormPage.qml" line="75"/>
+        <location line="+59"/>
         <source>Back</source>
         <translation>Zurück</translation>
     </message>
     <message>
-        <location filename="../qml/custom/NorbixUi/FormPage.qml" line="126"/>
+        <location line="+51"/>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
@@ -1240,7 +1240,7 @@
 <context>
     <name>ImportSettingsPage</name>
     <message numerus="yes">
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="33"/>
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="+33"/>
         <source>%n group(s) of settings loaded.</source>
         <translation>
             <numerusform>%n Einstellungsgruppe geladen.</numerusform>
@@ -1248,7 +1248,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="36"/>
+        <location line="+3"/>
         <source>%n group(s) of settings loaded. Not in the saved set, so reset to their defaults: %1.</source>
         <translation>
             <numerusform>%n Einstellungsgruppe geladen. Nicht im gespeicherten Satz enthalten und daher auf die Standardwerte zurückgesetzt: %1.</numerusform>
@@ -1256,53 +1256,53 @@
         </translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="45"/>
+        <location line="+9"/>
         <source>Choose what to load. A chosen group that the saved set lacks is reset to its defaults.</source>
         <translation>Wählen Sie, was geladen wird. Eine gewählte Gruppe, die im gespeicherten Satz fehlt, wird auf die Standardwerte zurückgesetzt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="50"/>
+        <location line="+5"/>
         <source>Source</source>
         <translation>Quelle</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="51"/>
+        <location line="+1"/>
         <source>Saved settings are folders named after the terminal they came from and the time they were saved.</source>
         <translation>Gespeicherte Einstellungen sind Ordner, benannt nach ihrem Terminal und dem Zeitpunkt der Speicherung.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="56"/>
+        <location line="+5"/>
         <source>Choose folder to import settings</source>
         <translation>Ordner für den Import wählen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="60"/>
+        <location line="+4"/>
         <source>No saved settings found</source>
         <translation>Keine gespeicherten Einstellungen gefunden</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="61"/>
+        <location line="+1"/>
         <source>Insert a USB drive with exported settings, then refresh the list.</source>
         <translation>Stecken Sie ein USB-Laufwerk mit exportierten Einstellungen ein und aktualisieren Sie die Liste.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="65"/>
+        <location line="+4"/>
         <source>Refresh folder list</source>
         <translation>Ordnerliste aktualisieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="72"/>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="88"/>
+        <location line="+7"/>
+        <location line="+16"/>
         <source>Import</source>
         <translation>Importieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="86"/>
+        <location line="-2"/>
         <source>Import settings</source>
         <translation>Einstellungen importieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="87"/>
+        <location line="+1"/>
         <source>The chosen settings of this terminal are replaced by the saved ones.</source>
         <translation>Die gewählten Einstellungen dieses Terminals werden durch die gespeicherten ersetzt.</translation>
     </message>
@@ -1310,24 +1310,24 @@
 <context>
     <name>LocalUpdaterBackend</name>
     <message>
-        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="146"/>
-        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="185"/>
-        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="200"/>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="+146"/>
+        <location line="+39"/>
+        <location line="+15"/>
         <source>The update service sent an answer that cannot be read.</source>
         <translation>Der Update-Dienst hat eine unlesbare Antwort gesendet.</translation>
     </message>
     <message>
-        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="163"/>
+        <location line="-37"/>
         <source>The update service refused the request (HTTP %1).</source>
         <translation>Der Update-Dienst hat die Anfrage abgelehnt (HTTP %1).</translation>
     </message>
     <message>
-        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="165"/>
+        <location line="+2"/>
         <source>The update service did not answer in time.</source>
         <translation>Der Update-Dienst hat nicht rechtzeitig geantwortet.</translation>
     </message>
     <message>
-        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="167"/>
+        <location line="+2"/>
         <source>The update service is not running.</source>
         <translation>Der Update-Dienst läuft nicht.</translation>
     </message>
@@ -1335,17 +1335,17 @@
 <context>
     <name>LockedPage</name>
     <message>
-        <location filename="../qml/vorplex/LockedPage.qml" line="19"/>
+        <location filename="../qml/vorplex/LockedPage.qml" line="+19"/>
         <source>Administrator access required</source>
         <translation>Administratorzugriff erforderlich</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LockedPage.qml" line="20"/>
+        <location line="+1"/>
         <source>This section changes how the terminal works for everyone who uses it. Unlock the advanced settings with the administrator password to continue.</source>
         <translation>Dieser Bereich ändert das Verhalten des Terminals für alle, die es benutzen. Entsperren Sie die erweiterten Einstellungen mit dem Administratorpasswort, um fortzufahren.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LockedPage.qml" line="24"/>
+        <location line="+4"/>
         <source>Unlock</source>
         <translation>Entsperren</translation>
     </message>
@@ -1353,77 +1353,77 @@
 <context>
     <name>LogsPage</name>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="27"/>
+        <location filename="../qml/vorplex/LogsPage.qml" line="+27"/>
         <source>Export finished.</source>
         <translation>Export abgeschlossen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="48"/>
+        <location line="+21"/>
         <source>Debug logging</source>
         <translation>Debug-Protokollierung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="49"/>
+        <location line="+1"/>
         <source>Records detailed messages for troubleshooting. Logs grow faster while it is on.</source>
         <translation>Zeichnet ausführliche Meldungen zur Fehlersuche auf. Die Protokolle wachsen dann schneller.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="59"/>
+        <location line="+10"/>
         <source>Export logs</source>
         <translation>Protokolle exportieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="60"/>
+        <location line="+1"/>
         <source>Save the logs to a USB drive, for example to pass them on to support.</source>
         <translation>Speichern Sie die Protokolle auf einem USB-Laufwerk, etwa um sie an den Support weiterzugeben.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="65"/>
+        <location line="+5"/>
         <source>Choose folder to export logs</source>
         <translation>Ordner für den Protokollexport wählen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="68"/>
+        <location line="+3"/>
         <source>No removable drive found</source>
         <translation>Kein Wechseldatenträger gefunden</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="69"/>
+        <location line="+1"/>
         <source>Insert a USB drive, then refresh the list.</source>
         <translation>Stecken Sie ein USB-Laufwerk ein und aktualisieren Sie die Liste.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="73"/>
+        <location line="+4"/>
         <source>Refresh drive list</source>
         <translation>Laufwerksliste aktualisieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="81"/>
+        <location line="+8"/>
         <source>Export all logs</source>
         <translation>Alle Protokolle exportieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="86"/>
+        <location line="+5"/>
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="94"/>
+        <location line="+8"/>
         <source>Current session</source>
         <translation>Aktuelle Sitzung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="95"/>
+        <location line="+1"/>
         <source>Messages logged since the shell was started.</source>
         <translation>Seit dem Start der Shell protokollierte Meldungen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="99"/>
+        <location line="+4"/>
         <source>Refresh</source>
         <translation>Aktualisieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/LogsPage.qml" line="138"/>
+        <location line="+39"/>
         <source>No messages logged yet.</source>
         <translation>Noch keine Meldungen protokolliert.</translation>
     </message>
@@ -1431,53 +1431,53 @@
 <context>
     <name>Main</name>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="63"/>
-        <location filename="../qml/vorplex/Main.qml" line="219"/>
+        <location filename="../qml/vorplex/Main.qml" line="+63"/>
+        <location line="+156"/>
         <source>Failed to connect</source>
         <translation>Verbindung fehlgeschlagen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="73"/>
+        <location line="-146"/>
         <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
         <translation>Diese Verbindung ist unvollständig und kann nicht gestartet werden. Ein Administrator kann sie unter Einstellungen → Verbindungen vervollständigen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="107"/>
+        <location line="+34"/>
         <source>Connecting to the Citrix store…</source>
         <translation>Verbindung zum Citrix-Store wird hergestellt…</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="111"/>
+        <location line="+4"/>
         <source>Support desk</source>
         <translation>Helpdesk</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="111"/>
+        <location line="+0"/>
         <source>Alex from IT support would like to see your screen to help with your ticket.</source>
         <translation>Alex vom IT-Support möchte Ihren Bildschirm sehen, um Ihnen bei Ihrem Ticket zu helfen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="176"/>
+        <location line="+65"/>
         <source>Your request for help has been sent.</source>
         <translation>Ihre Bitte um Hilfe wurde gesendet.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="224"/>
+        <location line="+48"/>
         <source>“%1” added.</source>
         <translation>„%1“ hinzugefügt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="224"/>
+        <location line="+0"/>
         <source>Changes to “%1” saved.</source>
         <translation>Änderungen an „%1“ gespeichert.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="234"/>
+        <location line="+10"/>
         <source>Connection error</source>
         <translation>Verbindungsfehler</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="236"/>
+        <location line="+2"/>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
@@ -1485,57 +1485,57 @@
 <context>
     <name>MainView</name>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="130"/>
+        <location filename="../qml/vorplex/MainView.qml" line="+130"/>
         <source>Help</source>
         <translation>Hilfe</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="137"/>
+        <location line="+7"/>
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="165"/>
+        <location line="+28"/>
         <source>Connections</source>
         <translation>Verbindungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="177"/>
+        <location line="+12"/>
         <source>Show less</source>
         <translation>Weniger anzeigen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="177"/>
+        <location line="+0"/>
         <source>Show all (%1)</source>
         <translation>Alle anzeigen (%1)</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="208"/>
+        <location line="+31"/>
         <source>No connections yet</source>
         <translation>Noch keine Verbindungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="209"/>
+        <location line="+1"/>
         <source>Remote desktops and applications will appear here as tiles. An administrator adds them in Settings → Connections.</source>
         <translation>Entfernte Desktops und Anwendungen erscheinen hier als Kacheln. Ein Administrator fügt sie unter Einstellungen → Verbindungen hinzu.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="213"/>
+        <location line="+4"/>
         <source>Open connection settings</source>
         <translation>Verbindungseinstellungen öffnen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="245"/>
+        <location line="+32"/>
         <source>An administrator has seen your request for help and will contact you.</source>
         <translation>Ein Administrator hat Ihre Bitte um Hilfe gesehen und meldet sich bei Ihnen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="279"/>
+        <location line="+34"/>
         <source>Norbix %1</source>
         <translation>Norbix %1</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="289"/>
+        <location line="+10"/>
         <source>Thin client terminal</source>
         <translation>Thin-Client-Terminal</translation>
     </message>
@@ -1543,132 +1543,132 @@
 <context>
     <name>ManagementPage</name>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="20"/>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="+20"/>
         <source>Enter an address such as wss://server.example.com/api/v1/ws.</source>
         <translation>Geben Sie eine Adresse wie wss://server.example.com/api/v1/ws ein.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="28"/>
+        <location line="+8"/>
         <source>Server settings saved.</source>
         <translation>Servereinstellungen gespeichert.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="35"/>
+        <location line="+7"/>
         <source>Use letters, digits and hyphens only (at most 63).</source>
         <translation>Nur Buchstaben, Ziffern und Bindestriche (höchstens 63).</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="40"/>
+        <location line="+5"/>
         <source>Computer name set to %1.</source>
         <translation>Computername auf %1 gesetzt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="46"/>
+        <location line="+6"/>
         <source>Use at least 6 characters.</source>
         <translation>Mindestens 6 Zeichen verwenden.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="51"/>
+        <location line="+5"/>
         <source>Remote assistance password set.</source>
         <translation>Passwort für die Fernwartung gesetzt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="64"/>
+        <location line="+13"/>
         <source>Managed by a server</source>
         <translation>Von einem Server verwaltet</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="65"/>
+        <location line="+1"/>
         <source>The management server can change settings, connections and certificates, and update or restart this terminal.</source>
         <translation>Der Verwaltungsserver kann Einstellungen, Verbindungen und Zertifikate ändern sowie dieses Terminal aktualisieren oder neu starten.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="75"/>
+        <location line="+10"/>
         <source>Connection</source>
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="76"/>
+        <location line="+1"/>
         <source>Not managed</source>
         <translation>Nicht verwaltet</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="77"/>
+        <location line="+1"/>
         <source>Connected to the management server</source>
         <translation>Mit dem Verwaltungsserver verbunden</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="78"/>
+        <location line="+1"/>
         <source>Not connected; the terminal keeps trying</source>
         <translation>Nicht verbunden; das Terminal versucht es weiter</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="84"/>
+        <location line="+6"/>
         <source>Server</source>
         <translation>Server</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="85"/>
+        <location line="+1"/>
         <source>Where the terminal registers and which account it belongs to.</source>
         <translation>Wo sich das Terminal anmeldet und zu welchem Konto es gehört.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="90"/>
+        <location line="+5"/>
         <source>Server address</source>
         <translation>Serveradresse</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="100"/>
+        <location line="+10"/>
         <source>Account</source>
         <translation>Konto</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="101"/>
+        <location line="+1"/>
         <source>Organisation account on the server</source>
         <translation>Organisationskonto auf dem Server</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="108"/>
+        <location line="+7"/>
         <source>Save server settings</source>
         <translation>Servereinstellungen speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="115"/>
+        <location line="+7"/>
         <source>Computer name</source>
         <translation>Computername</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="116"/>
+        <location line="+1"/>
         <source>The name of this terminal on the server and on the network. Leave it empty to use the name made from the network adapter.</source>
         <translation>Der Name dieses Terminals auf dem Server und im Netzwerk. Leer lassen, um den aus dem Netzwerkadapter gebildeten Namen zu verwenden.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="122"/>
+        <location line="+6"/>
         <source>Name</source>
         <translation>Name</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="129"/>
+        <location line="+7"/>
         <source>Set name</source>
         <translation>Name setzen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="136"/>
+        <location line="+7"/>
         <source>Remote assistance</source>
         <translation>Fernwartung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="137"/>
+        <location line="+1"/>
         <source>Password of this terminal&apos;s screen sharing, used when an administrator connects for support.</source>
         <translation>Passwort der Bildschirmfreigabe dieses Terminals, wenn sich ein Administrator zur Unterstützung verbindet.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="143"/>
+        <location line="+6"/>
         <source>New password</source>
         <translation>Neues Passwort</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/ManagementPage.qml" line="151"/>
+        <location line="+8"/>
         <source>Set password</source>
         <translation>Passwort setzen</translation>
     </message>
@@ -1676,12 +1676,12 @@
 <context>
     <name>ModalDialog</name>
     <message>
-        <location filename="../qml/custom/NorbixUi/ModalDialog.qml" line="11"/>
+        <location filename="../qml/custom/NorbixUi/ModalDialog.qml" line="+11"/>
         <source>OK</source>
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../qml/custom/NorbixUi/ModalDialog.qml" line="12"/>
+        <location line="+1"/>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -1689,7 +1689,7 @@
 <context>
     <name>NavItem</name>
     <message>
-        <location filename="../qml/custom/NorbixUi/NavItem.qml" line="21"/>
+        <location filename="../qml/custom/NorbixUi/NavItem.qml" line="+21"/>
         <source>%1 (locked)</source>
         <translation>%1 (gesperrt)</translation>
     </message>
@@ -1697,12 +1697,12 @@
 <context>
     <name>PasswordField</name>
     <message>
-        <location filename="../qml/custom/NorbixUi/PasswordField.qml" line="58"/>
+        <location filename="../qml/custom/NorbixUi/PasswordField.qml" line="+58"/>
         <source>Hide password</source>
         <translation>Passwort ausblenden</translation>
     </message>
     <message>
-        <location filename="../qml/custom/NorbixUi/PasswordField.qml" line="58"/>
+        <location line="+0"/>
         <source>Show password</source>
         <translation>Passwort anzeigen</translation>
     </message>
@@ -1710,12 +1710,12 @@
 <context>
     <name>PlaceholderCard</name>
     <message>
-        <location filename="../qml/custom/NorbixUi/PlaceholderCard.qml" line="8"/>
+        <location filename="../qml/custom/NorbixUi/PlaceholderCard.qml" line="+8"/>
         <source>Not available on this terminal yet</source>
         <translation>Auf diesem Terminal noch nicht verfügbar</translation>
     </message>
     <message>
-        <location filename="../qml/custom/NorbixUi/PlaceholderCard.qml" line="9"/>
+        <location line="+1"/>
         <source>These settings arrive with a later software update. Until then the terminal keeps its current configuration, and nothing here needs your attention.</source>
         <translation>Diese Einstellungen kommen mit einem späteren Software-Update. Bis dahin behält das Terminal seine aktuelle Konfiguration, und hier ist nichts zu tun.</translation>
     </message>
@@ -1723,27 +1723,27 @@
 <context>
     <name>RDPConnector</name>
     <message>
-        <location filename="../src/connectors/RDPConnector.cpp" line="91"/>
+        <location filename="../src/connectors/RDPConnector.cpp" line="+91"/>
         <source>Failed to authorize user</source>
         <translation>Benutzer konnte nicht angemeldet werden</translation>
     </message>
     <message>
-        <location filename="../src/connectors/RDPConnector.cpp" line="93"/>
+        <location line="+2"/>
         <source>Invalid IP</source>
         <translation>Ungültige IP-Adresse</translation>
     </message>
     <message>
-        <location filename="../src/connectors/RDPConnector.cpp" line="95"/>
+        <location line="+2"/>
         <source>Failed to connect</source>
         <translation>Verbindung fehlgeschlagen</translation>
     </message>
     <message>
-        <location filename="../src/connectors/RDPConnector.cpp" line="97"/>
+        <location line="+2"/>
         <source>Host not found</source>
         <translation>Host nicht gefunden</translation>
     </message>
     <message>
-        <location filename="../src/connectors/RDPConnector.cpp" line="99"/>
+        <location line="+2"/>
         <source>Error: </source>
         <translation>Fehler: </translation>
     </message>
@@ -1751,42 +1751,42 @@
 <context>
     <name>RDPLoginDialog</name>
     <message>
-        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="32"/>
+        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="+32"/>
         <source>Sign in</source>
         <translation>Anmelden</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="35"/>
+        <location line="+3"/>
         <source>Enter your user name and password to start the session.</source>
         <translation>Geben Sie Benutzername und Passwort ein, um die Sitzung zu starten.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="37"/>
+        <location line="+2"/>
         <source>Enter your user name and password for “%1”.</source>
         <translation>Geben Sie Benutzername und Passwort für „%1“ ein.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="38"/>
+        <location line="+1"/>
         <source>Enter your user name and password for “%1” on %2.</source>
         <translation>Geben Sie Benutzername und Passwort für „%1“ auf %2 ein.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="40"/>
+        <location line="+2"/>
         <source>Connect</source>
         <translation>Verbinden</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="52"/>
+        <location line="+12"/>
         <source>User name can&apos;t be empty</source>
         <translation>Der Benutzername darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="72"/>
+        <location line="+20"/>
         <source>User name</source>
         <translation>Benutzername</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="81"/>
+        <location line="+9"/>
         <source>Password</source>
         <translation>Passwort</translation>
     </message>
@@ -1794,262 +1794,262 @@
 <context>
     <name>SectionCatalog</name>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="9"/>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="+9"/>
         <source>Connectivity</source>
         <translation>Konnektivität</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="11"/>
+        <location line="+2"/>
         <source>Connections</source>
         <translation>Verbindungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="12"/>
+        <location line="+1"/>
         <source>Remote sessions that appear as tiles on the home screen.</source>
         <translation>Entfernte Sitzungen, die als Kacheln auf dem Startbildschirm erscheinen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="13"/>
+        <location line="+1"/>
         <source>Wired network</source>
         <translation>Kabelgebundenes Netzwerk</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="14"/>
+        <location line="+1"/>
         <source>Ethernet addressing, DNS and proxy.</source>
         <translation>Ethernet-Adressen, DNS und Proxy.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="15"/>
+        <location line="+1"/>
         <source>Wi-Fi</source>
         <translation>WLAN</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="16"/>
+        <location line="+1"/>
         <source>Wireless networks and saved credentials.</source>
         <translation>Drahtlose Netzwerke und gespeicherte Zugangsdaten.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="17"/>
+        <location line="+1"/>
         <source>802.1X authentication</source>
         <translation>802.1X-Authentifizierung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="18"/>
+        <location line="+1"/>
         <source>Port-based network access control for wired and wireless networks.</source>
         <translation>Portbasierte Zugangskontrolle für kabelgebundene und drahtlose Netzwerke.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="19"/>
+        <location line="+1"/>
         <source>Host name</source>
         <translation>Hostname</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="20"/>
+        <location line="+1"/>
         <source>The name this terminal uses on the network.</source>
         <translation>Der Name, den dieses Terminal im Netzwerk verwendet.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="24"/>
+        <location line="+4"/>
         <source>Preferences</source>
         <translation>Einstellungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="26"/>
+        <location line="+2"/>
         <source>Displays</source>
         <translation>Bildschirme</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="27"/>
+        <location line="+1"/>
         <source>Resolution, arrangement and orientation of connected monitors.</source>
         <translation>Auflösung, Anordnung und Ausrichtung der angeschlossenen Monitore.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="28"/>
+        <location line="+1"/>
         <source>Power saving</source>
         <translation>Energiesparen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="29"/>
+        <location line="+1"/>
         <source>Screen blanking and standby timing.</source>
         <translation>Bildschirmabschaltung und Standby-Zeiten.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="30"/>
+        <location line="+1"/>
         <source>Date &amp; time</source>
         <translation>Datum und Uhrzeit</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="31"/>
+        <location line="+1"/>
         <source>Time zone, clock format and time servers.</source>
         <translation>Zeitzone, Uhrzeitformat und Zeitserver.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="32"/>
+        <location line="+1"/>
         <source>Sound</source>
         <translation>Ton</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="33"/>
+        <location line="+1"/>
         <source>Output and input devices and volume.</source>
         <translation>Aus- und Eingabegeräte und Lautstärke.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="34"/>
+        <location line="+1"/>
         <source>Keyboard</source>
         <translation>Tastatur</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="35"/>
+        <location line="+1"/>
         <source>Keyboard layout and key repeat.</source>
         <translation>Tastaturlayout und Tastenwiederholung.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="36"/>
+        <location line="+1"/>
         <source>Mouse</source>
         <translation>Maus</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="37"/>
+        <location line="+1"/>
         <source>Pointer speed, button order and double-click timing.</source>
         <translation>Zeigergeschwindigkeit, Tastenbelegung und Doppelklickgeschwindigkeit.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="38"/>
+        <location line="+1"/>
         <source>Language</source>
         <translation>Sprache</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="39"/>
+        <location line="+1"/>
         <source>Display language and regional formats.</source>
         <translation>Anzeigesprache und regionale Formate.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="40"/>
+        <location line="+1"/>
         <source>Wallpaper</source>
         <translation>Hintergrundbild</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="41"/>
+        <location line="+1"/>
         <source>Background image of the home screen.</source>
         <translation>Hintergrundbild des Startbildschirms.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="45"/>
+        <location line="+4"/>
         <source>Devices</source>
         <translation>Geräte</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="47"/>
+        <location line="+2"/>
         <source>Printers</source>
         <translation>Drucker</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="48"/>
+        <location line="+1"/>
         <source>Local and network printers available to sessions.</source>
         <translation>Lokale und Netzwerkdrucker für die Sitzungen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="49"/>
+        <location line="+1"/>
         <source>USB storage</source>
         <translation>USB-Speicher</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="50"/>
+        <location line="+1"/>
         <source>Access to USB drives on this terminal and in sessions.</source>
         <translation>Zugriff auf USB-Laufwerke an diesem Terminal und in Sitzungen.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="54"/>
+        <location line="+4"/>
         <source>Security</source>
         <translation>Sicherheit</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="56"/>
+        <location line="+2"/>
         <source>Certificates</source>
         <translation>Zertifikate</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="57"/>
+        <location line="+1"/>
         <source>Trusted certificate authorities and client certificates.</source>
         <translation>Vertrauenswürdige Zertifizierungsstellen und Client-Zertifikate.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="58"/>
+        <location line="+1"/>
         <source>Administrator password</source>
         <translation>Administratorpasswort</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="60"/>
+        <location line="+2"/>
         <source>The password that protects the advanced settings.</source>
         <translation>Das Passwort, das die erweiterten Einstellungen schützt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="64"/>
+        <location line="+4"/>
         <source>Management</source>
         <translation>Verwaltung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="66"/>
+        <location line="+2"/>
         <source>Management server</source>
         <translation>Verwaltungsserver</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="67"/>
+        <location line="+1"/>
         <source>Central management of this terminal.</source>
         <translation>Zentrale Verwaltung dieses Terminals.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="68"/>
+        <location line="+1"/>
         <source>Updates</source>
         <translation>Aktualisierungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="69"/>
+        <location line="+1"/>
         <source>Software updates for this terminal.</source>
         <translation>Software-Updates für dieses Terminal.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="70"/>
+        <location line="+1"/>
         <source>Export settings</source>
         <translation>Einstellungen exportieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="71"/>
+        <location line="+1"/>
         <source>Save this terminal&apos;s configuration to a USB drive.</source>
         <translation>Die Konfiguration dieses Terminals auf einem USB-Laufwerk speichern.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="72"/>
+        <location line="+1"/>
         <source>Import settings</source>
         <translation>Einstellungen importieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="73"/>
+        <location line="+1"/>
         <source>Load a configuration from a USB drive.</source>
         <translation>Eine Konfiguration von einem USB-Laufwerk laden.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="77"/>
+        <location line="+4"/>
         <source>Support</source>
         <translation>Support</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="79"/>
+        <location line="+2"/>
         <source>Logs</source>
         <translation>Protokolle</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="80"/>
+        <location line="+1"/>
         <source>Diagnostic messages of this session and export for support.</source>
         <translation>Diagnosemeldungen dieser Sitzung und Export für den Support.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="81"/>
+        <location line="+1"/>
         <source>System information</source>
         <translation>Systeminformationen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SectionCatalog.qml" line="82"/>
+        <location line="+1"/>
         <source>Hardware, software version and network details.</source>
         <translation>Hardware, Softwareversion und Netzwerkdetails.</translation>
     </message>
@@ -2057,57 +2057,57 @@
 <context>
     <name>SettingsGroupsCard</name>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="10"/>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="+10"/>
         <source>Display settings</source>
         <translation>Anzeigeeinstellungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="11"/>
+        <location line="+1"/>
         <source>Keyboard and Mouse</source>
         <translation>Tastatur und Maus</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="12"/>
+        <location line="+1"/>
         <source>Language settings</source>
         <translation>Spracheinstellungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="13"/>
+        <location line="+1"/>
         <source>Connections</source>
         <translation>Verbindungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="14"/>
+        <location line="+1"/>
         <source>Time settings</source>
         <translation>Zeiteinstellungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="15"/>
+        <location line="+1"/>
         <source>API settings</source>
         <translation>API-Einstellungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="16"/>
+        <location line="+1"/>
         <source>Admin password</source>
         <translation>Administratorpasswort</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="17"/>
+        <location line="+1"/>
         <source>Wallpapers</source>
         <translation>Hintergrundbilder</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="48"/>
+        <location line="+31"/>
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="51"/>
+        <location line="+3"/>
         <source>Clear all</source>
         <translation>Alle abwählen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="51"/>
+        <location line="+0"/>
         <source>Select all</source>
         <translation>Alle auswählen</translation>
     </message>
@@ -2115,42 +2115,42 @@
 <context>
     <name>SettingsView</name>
     <message>
-        <location filename="../qml/vorplex/SettingsView.qml" line="109"/>
+        <location filename="../qml/vorplex/SettingsView.qml" line="+109"/>
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsView.qml" line="125"/>
+        <location line="+16"/>
         <source>Home</source>
         <translation>Start</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsView.qml" line="126"/>
+        <location line="+1"/>
         <source>Back to home</source>
         <translation>Zurück zum Startbildschirm</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsView.qml" line="279"/>
+        <location line="+153"/>
         <source>Advanced settings</source>
         <translation>Erweitert</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsView.qml" line="289"/>
+        <location line="+10"/>
         <source>Unlocked</source>
         <translation>Entsperrt</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsView.qml" line="289"/>
+        <location line="+0"/>
         <source>Locked</source>
         <translation>Gesperrt</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsView.qml" line="301"/>
+        <location line="+12"/>
         <source>Lock</source>
         <translation>Sperren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/SettingsView.qml" line="301"/>
+        <location line="+0"/>
         <source>Unlock</source>
         <translation>Entsperren</translation>
     </message>
@@ -2158,7 +2158,7 @@
 <context>
     <name>TeamsPopup</name>
     <message>
-        <location filename="../qml/vorplex/TeamsPopup.qml" line="33"/>
+        <location filename="../qml/vorplex/TeamsPopup.qml" line="+33"/>
         <source>Microsoft Teams</source>
         <translation>Microsoft Teams</translation>
     </message>
@@ -2166,7 +2166,7 @@
 <context>
     <name>Toast</name>
     <message>
-        <location filename="../qml/custom/NorbixUi/Toast.qml" line="76"/>
+        <location filename="../qml/custom/NorbixUi/Toast.qml" line="+76"/>
         <source>Dismiss</source>
         <translation>Schließen</translation>
     </message>
@@ -2174,178 +2174,178 @@
 <context>
     <name>UpdatesPage</name>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="11"/>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="+11"/>
         <source>Contacting the update service…</source>
         <translation>Verbindung zum Update-Dienst wird hergestellt…</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="12"/>
+        <location line="+1"/>
         <source>Update service unavailable</source>
         <translation>Update-Dienst nicht verfügbar</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="13"/>
+        <location line="+1"/>
         <source>Ready</source>
         <translation>Bereit</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="14"/>
+        <location line="+1"/>
         <source>Checking for updates</source>
         <translation>Suche nach Updates</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="15"/>
+        <location line="+1"/>
         <source>Downloading update</source>
         <translation>Update wird heruntergeladen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="16"/>
+        <location line="+1"/>
         <source>Installing update</source>
         <translation>Update wird installiert</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="17"/>
+        <location line="+1"/>
         <source>Update installed</source>
         <translation>Update installiert</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="18"/>
+        <location line="+1"/>
         <source>Update failed</source>
         <translation>Update fehlgeschlagen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="41"/>
+        <location line="+23"/>
         <source>The terminal is being reset to its factory settings.</source>
         <translation>Das Terminal wird auf die Werkseinstellungen zurückgesetzt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="43"/>
+        <location line="+2"/>
         <source>The update service is installing the package.</source>
         <translation>Der Update-Dienst installiert das Paket.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="54"/>
+        <location line="+11"/>
         <source>Status</source>
         <translation>Status</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="58"/>
+        <location line="+4"/>
         <source>Check now</source>
         <translation>Jetzt prüfen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="97"/>
+        <location line="+39"/>
         <source>Installed version: %1</source>
         <translation>Installierte Version: %1</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="134"/>
+        <location line="+37"/>
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="144"/>
+        <location line="+10"/>
         <source>Available updates</source>
         <translation>Verfügbare Updates</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="145"/>
+        <location line="+1"/>
         <source>Versions the update service offers for this terminal.</source>
         <translation>Versionen, die der Update-Dienst für dieses Terminal anbietet.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="160"/>
+        <location line="+15"/>
         <source>System %1</source>
         <translation>System %1</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="160"/>
+        <location line="+0"/>
         <source>Shell %1</source>
         <translation>Shell %1</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="182"/>
+        <location line="+22"/>
         <source>Install</source>
         <translation>Installieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="195"/>
+        <location line="+13"/>
         <source>No updates available</source>
         <translation>Keine Updates verfügbar</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="195"/>
+        <location line="+0"/>
         <source>No information about updates</source>
         <translation>Keine Informationen zu Updates</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="196"/>
+        <location line="+1"/>
         <source>This terminal runs the newest software the update service knows of.</source>
         <translation>Auf diesem Terminal läuft die neueste Software, die der Update-Dienst kennt.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="197"/>
+        <location line="+1"/>
         <source>Available versions appear here while the update service is running.</source>
         <translation>Verfügbare Versionen erscheinen hier, solange der Update-Dienst läuft.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="208"/>
+        <location line="+11"/>
         <source>Install updates automatically</source>
         <translation>Updates automatisch installieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="209"/>
+        <location line="+1"/>
         <source>A newer version of the shell is installed as soon as the update service offers it.</source>
         <translation>Eine neuere Version der Shell wird installiert, sobald der Update-Dienst sie anbietet.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="219"/>
+        <location line="+10"/>
         <source>Install from a USB drive</source>
         <translation>Von einem USB-Laufwerk installieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="220"/>
+        <location line="+1"/>
         <source>An update package (.deb) for terminals without access to the update server.</source>
         <translation>Ein Update-Paket (.deb) für Terminals ohne Zugang zum Update-Server.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="225"/>
+        <location line="+5"/>
         <source>Update package</source>
         <translation>Update-Paket</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="228"/>
+        <location line="+3"/>
         <source>No update packages found</source>
         <translation>Keine Update-Pakete gefunden</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="229"/>
+        <location line="+1"/>
         <source>Insert a USB drive with an update package, then refresh the list.</source>
         <translation>Stecken Sie ein USB-Laufwerk mit einem Update-Paket ein und aktualisieren Sie die Liste.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="233"/>
+        <location line="+4"/>
         <source>Refresh package list</source>
         <translation>Paketliste aktualisieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="244"/>
+        <location line="+11"/>
         <source>Install package</source>
         <translation>Paket installieren</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="258"/>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="272"/>
+        <location line="+14"/>
+        <location line="+14"/>
         <source>Factory reset</source>
         <translation>Auf Werkseinstellungen zurücksetzen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="273"/>
+        <location line="+1"/>
         <source>Every setting and connection of this terminal is erased and the terminal restarts with its factory settings.</source>
         <translation>Alle Einstellungen und Verbindungen dieses Terminals werden gelöscht, und das Terminal startet mit den Werkseinstellungen neu.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/UpdatesPage.qml" line="274"/>
+        <location line="+1"/>
         <source>Reset</source>
         <translation>Zurücksetzen</translation>
     </message>
@@ -2353,122 +2353,122 @@
 <context>
     <name>VMWareConnectDialog</name>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="33"/>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="+33"/>
         <source>Connection name can&apos;t be empty</source>
         <translation>Der Verbindungsname darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="34"/>
+        <location line="+1"/>
         <source>Server address can&apos;t be empty</source>
         <translation>Die Serveradresse darf nicht leer sein</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="44"/>
+        <location line="+10"/>
         <source>Edit VMWare Horizon Connection</source>
         <translation>VMware-Horizon-Verbindung bearbeiten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="44"/>
+        <location line="+0"/>
         <source>Add VMWare Horizon Connection</source>
         <translation>VMware-Horizon-Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="45"/>
+        <location line="+1"/>
         <source>A virtual desktop from a VMware Horizon connection server.</source>
         <translation>Ein virtueller Desktop von einem VMware-Horizon-Verbindungsserver.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="47"/>
+        <location line="+2"/>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="47"/>
+        <location line="+0"/>
         <source>Add connection</source>
         <translation>Verbindung hinzufügen</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="77"/>
+        <location line="+30"/>
         <source>Connection</source>
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="90"/>
+        <location line="+13"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="91"/>
+        <location line="+1"/>
         <source>Shown on the home screen</source>
         <translation>Wird auf dem Startbildschirm angezeigt</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="102"/>
+        <location line="+11"/>
         <source>Server address</source>
         <translation>Serveradresse</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="103"/>
+        <location line="+1"/>
         <source>Connection server, e.g. horizon.example.com</source>
         <translation>Verbindungsserver, z. B. horizon.example.com</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="114"/>
+        <location line="+11"/>
         <source>Protocol</source>
         <translation>Protokoll</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="116"/>
+        <location line="+2"/>
         <source>Display protocol of the desktop session.</source>
         <translation>Anzeigeprotokoll der Desktopsitzung.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="123"/>
+        <location line="+7"/>
         <source>Credentials</source>
         <translation>Anmeldedaten</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="128"/>
+        <location line="+5"/>
         <source>Remember credentials</source>
         <translation>Anmeldedaten speichern</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="135"/>
+        <location line="+7"/>
         <source>User name and password are saved with the connection.</source>
         <translation>Benutzername und Passwort werden mit der Verbindung gespeichert.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="136"/>
+        <location line="+1"/>
         <source>User name and password are not saved with the connection.</source>
         <translation>Benutzername und Passwort werden nicht mit der Verbindung gespeichert.</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="150"/>
+        <location line="+14"/>
         <source>User name</source>
         <translation>Benutzername</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="160"/>
+        <location line="+10"/>
         <source>Password</source>
         <translation>Passwort</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="169"/>
+        <location line="+9"/>
         <source>Domain</source>
         <translation>Domäne</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="170"/>
+        <location line="+1"/>
         <source>Optional</source>
         <translation>Optional</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="179"/>
+        <location line="+9"/>
         <source>Desktop</source>
         <translation>Desktop</translation>
     </message>
     <message>
-        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="180"/>
+        <location line="+1"/>
         <source>Optional: the desktop pool to open</source>
         <translation>Optional: der zu öffnende Desktop-Pool</translation>
     </message>

@@ -110,7 +110,7 @@ Rectangle {
 
             Text {
                 anchors.horizontalCenter: parent.horizontalCenter
-                text: Qt.formatDate(root.now, Qt.locale().dateFormat(Locale.LongFormat))
+                text: root.now.toLocaleDateString(Qt.locale(), Locale.LongFormat)
                 color: Theme.navyText
                 font.family: Theme.fontFamily
                 font.pixelSize: Theme.fontBody

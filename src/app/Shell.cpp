@@ -24,6 +24,7 @@
 #include <QApplication>
 #include <QDebug>
 #include <QFontDatabase>
+#include <QLocale>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QSettings>
@@ -51,8 +52,10 @@ void loadTranslation(QApplication& app)
                              .value(QStringLiteral("Language"), QStringLiteral("en"))
                              .toString();
     QTranslator* translator = LanguageBackend::getInstance()->translator();
-    if (translator->load(QStringLiteral("norbix_") + code + QStringLiteral(".qm")))
+    if (translator->load(QStringLiteral("norbix_") + code + QStringLiteral(".qm"))) {
         app.installTranslator(translator);
+        QLocale::setDefault(QLocale(code)); // dates and numbers in the language of the texts
+    }
 }
 
 QString kernelDescription()

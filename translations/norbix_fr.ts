@@ -1,0 +1,2476 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR">
+<context>
+    <name>AddBrowserConnection</name>
+    <message>
+        <location filename="../qml/vorplex/AddBrowserConnection.qml" line="+26"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Le nom de la connexion ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Server address can&apos;t be empty</source>
+        <translation>L&apos;adresse du serveur ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Edit Browser Connection</source>
+        <translation>Modifier la connexion navigateur</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add Browser Connection</source>
+        <translation>Ajouter une connexion navigateur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A web site or web application in the browser.</source>
+        <translation>Un site web ou une application web dans le navigateur.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add connection</source>
+        <translation>Ajouter une connexion</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Connection name</source>
+        <translation>Nom de la connexion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shown on the home screen</source>
+        <translation>Affiché sur l&apos;écran d&apos;accueil</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Site</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>e.g. https://intranet.example.com</source>
+        <translation>p. ex. https://intranet.example.com</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Browser</source>
+        <translation>Navigateur</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Kiosk mode</source>
+        <translation>Mode kiosque</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Full screen, without address bar, tabs or menus.</source>
+        <translation>Plein écran, sans barre d&apos;adresse, onglets ni menus.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Private window</source>
+        <translation>Fenêtre privée</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Nothing from earlier visits is kept: no history, cookies or cache.</source>
+        <translation>Rien n&apos;est conservé des visites précédentes&#xa0;: ni historique, ni cookies, ni cache.</translation>
+    </message>
+</context>
+<context>
+    <name>AddCitrixConnection</name>
+    <message>
+        <location filename="../qml/vorplex/AddCitrixConnection.qml" line="+29"/>
+        <source>Server address can&apos;t be empty</source>
+        <translation>L&apos;adresse du serveur ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Le nom de la connexion ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>Edit Citrix Connection</source>
+        <translation>Modifier la connexion Citrix</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add Citrix Connection</source>
+        <translation>Ajouter une connexion Citrix</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A published desktop or application from a Citrix store.</source>
+        <translation>Un bureau ou une application publiés par un magasin Citrix.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add connection</source>
+        <translation>Ajouter une connexion</translation>
+    </message>
+    <message>
+        <location line="+35"/>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Connection name</source>
+        <translation>Nom de la connexion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shown on the home screen</source>
+        <translation>Affiché sur l&apos;écran d&apos;accueil</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Server address</source>
+        <translation>Adresse du serveur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Store address, e.g. https://citrix.example.com</source>
+        <translation>Magasin, p. ex. https://citrix.example.com</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Credentials</source>
+        <translation>Identifiants</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Remember credentials</source>
+        <translation>Mémoriser les identifiants</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>User name and password are saved with the connection.</source>
+        <translation>Le nom d&apos;utilisateur et le mot de passe sont enregistrés avec la connexion.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User name and password are only used to browse resources and are not saved.</source>
+        <translation>Le nom d&apos;utilisateur et le mot de passe servent uniquement à parcourir les ressources et ne sont pas enregistrés.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>User name</source>
+        <translation>Nom d&apos;utilisateur</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+14"/>
+        <source>Resource</source>
+        <translation>Ressource</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>The desktop or application this connection opens.</source>
+        <translation>Le bureau ou l&apos;application qu&apos;ouvre cette connexion.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Desktop</source>
+        <translation>Bureau</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Optional</source>
+        <translation>Facultatif</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Name as the store lists it</source>
+        <translation>Nom tel qu&apos;il figure dans le magasin</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Browse resources</source>
+        <translation>Parcourir les ressources</translation>
+    </message>
+</context>
+<context>
+    <name>AddPuttyConnection</name>
+    <message>
+        <location filename="../qml/vorplex/AddPuttyConnection.qml" line="+26"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Le nom de la connexion ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Edit PuTTY Connection</source>
+        <translation>Modifier la connexion PuTTY</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add PuTTY Connection</source>
+        <translation>Ajouter une connexion PuTTY</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A terminal session to a server or network device.</source>
+        <translation>Une session de terminal vers un serveur ou un équipement réseau.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add connection</source>
+        <translation>Ajouter une connexion</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Connection name</source>
+        <translation>Nom de la connexion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shown on the home screen</source>
+        <translation>Affiché sur l&apos;écran d&apos;accueil</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Host</source>
+        <translation>Hôte</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Host name or IP address</source>
+        <translation>Nom d&apos;hôte ou adresse IP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+11"/>
+        <source>Optional</source>
+        <translation>Facultatif</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>User name</source>
+        <translation>Nom d&apos;utilisateur</translation>
+    </message>
+</context>
+<context>
+    <name>AddRDPConnection</name>
+    <message>
+        <location filename="../qml/vorplex/AddRDPConnection.qml" line="+38"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Le nom de la connexion ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Server address can&apos;t be empty</source>
+        <translation>L&apos;adresse du serveur ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Edit RDP Connection</source>
+        <translation>Modifier la connexion RDP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add RDP Connection</source>
+        <translation>Ajouter une connexion RDP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A Windows desktop or server reached over Remote Desktop.</source>
+        <translation>Un bureau ou un serveur Windows accessible par Bureau à distance.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add connection</source>
+        <translation>Ajouter une connexion</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Connection name</source>
+        <translation>Nom de la connexion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shown on the home screen</source>
+        <translation>Affiché sur l&apos;écran d&apos;accueil</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Server address</source>
+        <translation>Adresse du serveur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+131"/>
+        <source>Host name or IP address</source>
+        <translation>Nom d&apos;hôte ou adresse IP</translation>
+    </message>
+    <message>
+        <location line="-121"/>
+        <source>Credentials</source>
+        <translation>Identifiants</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Remember credentials</source>
+        <translation>Mémoriser les identifiants</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The session starts without asking for a password.</source>
+        <translation>La session démarre sans demander de mot de passe.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User name and password are asked for each time the session starts.</source>
+        <translation>Le nom d&apos;utilisateur et le mot de passe sont demandés à chaque ouverture de session.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>User name</source>
+        <translation>Nom d&apos;utilisateur</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Domain</source>
+        <translation>Domaine</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+95"/>
+        <source>Optional</source>
+        <translation>Facultatif</translation>
+    </message>
+    <message>
+        <location line="-87"/>
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Full screen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The session fills the whole screen.</source>
+        <translation>La session occupe tout l&apos;écran.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Multi-monitor</source>
+        <translation>Multi-écran</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The session spans every connected display.</source>
+        <translation>La session s&apos;étend sur tous les écrans connectés.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Smart card</source>
+        <translation>Carte à puce</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Sign in to the session with a smart card in this terminal&apos;s reader.</source>
+        <translation>Connexion à la session avec une carte à puce insérée dans le lecteur de ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>USB redirection</source>
+        <translation>Redirection USB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB devices plugged into this terminal appear in the session.</source>
+        <translation>Les périphériques USB branchés sur ce terminal apparaissent dans la session.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Printers set up on this terminal can be used from the session.</source>
+        <translation>Les imprimantes configurées sur ce terminal sont utilisables depuis la session.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Gateway</source>
+        <translation>Passerelle</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Only needed when the server is reached through a Remote Desktop Gateway.</source>
+        <translation>Nécessaire uniquement si le serveur est joint via une passerelle Bureau à distance.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Gateway host</source>
+        <translation>Hôte de la passerelle</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Gateway user name</source>
+        <translation>Utilisateur de la passerelle</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Gateway domain</source>
+        <translation>Domaine de la passerelle</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Gateway password</source>
+        <translation>Mot de passe de la passerelle</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Performance</source>
+        <translation>Performances</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Best quality suits fast networks; Fastest lowers colour depth and effects for slow links.</source>
+        <translation>«&#xa0;Meilleure qualité&#xa0;» convient aux réseaux rapides&#x202f;; «&#xa0;Plus rapide&#xa0;» réduit la profondeur de couleur et les effets pour les liaisons lentes.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Best quality</source>
+        <translation>Meilleure qualité</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Fastest</source>
+        <translation>Plus rapide</translation>
+    </message>
+</context>
+<context>
+    <name>AddVNCConnection</name>
+    <message>
+        <location filename="../qml/vorplex/AddVNCConnection.qml" line="+32"/>
+        <source>Server address can&apos;t be empty</source>
+        <translation>L&apos;adresse du serveur ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Enter a host name or IP address, optionally followed by a colon and a port</source>
+        <translation>Saisissez un nom d&apos;hôte ou une adresse IP, suivi éventuellement de deux-points et d&apos;un port</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The port must be a number from 1 to 65535</source>
+        <translation>Le port doit être un nombre entre 1 et 65535</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Le nom de la connexion ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Edit VNC Connection</source>
+        <translation>Modifier la connexion VNC</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add VNC Connection</source>
+        <translation>Ajouter une connexion VNC</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A remote screen shown in this terminal&apos;s own VNC viewer.</source>
+        <translation>Un écran distant affiché dans la visionneuse VNC de ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add connection</source>
+        <translation>Ajouter une connexion</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>Connection name</source>
+        <translation>Nom de la connexion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shown on the home screen</source>
+        <translation>Affiché sur l&apos;écran d&apos;accueil</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Server address</source>
+        <translation>Adresse du serveur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>host or host:port</source>
+        <translation>hôte ou hôte:port</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Port 5900 when none is given</source>
+        <translation>Port 5900 si aucun n&apos;est indiqué</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+22"/>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <location line="-16"/>
+        <source>Remember password</source>
+        <translation>Mémoriser le mot de passe</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The password is stored encrypted on this terminal.</source>
+        <translation>Le mot de passe est stocké chiffré sur ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The password is not stored; servers that ask for one refuse the session.</source>
+        <translation>Le mot de passe n&apos;est pas stocké&#x202f;; les serveurs qui en exigent un refusent la session.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Viewer window</source>
+        <translation>Fenêtre de la visionneuse</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Full screen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The remote screen fills the whole display.</source>
+        <translation>L&apos;écran distant occupe tout l&apos;affichage.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Shrink to fit</source>
+        <translation>Réduire pour ajuster</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Large remote screens are scaled down to the window instead of scrolled.</source>
+        <translation>Les grands écrans distants sont réduits à la taille de la fenêtre au lieu de défiler.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <location line="+19"/>
+        <source>Window size</source>
+        <translation>Taille de la fenêtre</translation>
+    </message>
+    <message>
+        <location line="-14"/>
+        <source>Share of this terminal&apos;s screen taken by the viewer window, from its top left corner.</source>
+        <translation>Part de l&apos;écran de ce terminal occupée par la fenêtre de la visionneuse, depuis le coin supérieur gauche.</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>AdminConnectionPopup</name>
+    <message>
+        <location filename="../qml/vorplex/AdminConnectionPopup.qml" line="+19"/>
+        <source>Allow remote connection</source>
+        <translation>Autoriser la connexion à distance</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Accept</source>
+        <translation>Accepter</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reject</source>
+        <translation>Refuser</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Request will be accepted automatically in %1 seconds</source>
+        <translation>La demande sera acceptée automatiquement dans %1 secondes</translation>
+    </message>
+</context>
+<context>
+    <name>AdminLoginDialog</name>
+    <message>
+        <location filename="../qml/vorplex/AdminLoginDialog.qml" line="+11"/>
+        <source>Administrator access</source>
+        <translation>Accès administrateur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Advanced settings are protected. Enter the administrator password to unlock them.</source>
+        <translation>Les paramètres avancés sont protégés. Saisissez le mot de passe administrateur pour les déverrouiller.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Unlock</source>
+        <translation>Déverrouiller</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Wrong password. Please try again.</source>
+        <translation>Mot de passe incorrect. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Administrator password</source>
+        <translation>Mot de passe administrateur</translation>
+    </message>
+</context>
+<context>
+    <name>AdminPasswordPage</name>
+    <message>
+        <location filename="../qml/vorplex/AdminPasswordPage.qml" line="+16"/>
+        <source>The current password is not correct.</source>
+        <translation>Le mot de passe actuel est incorrect.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Enter a new password.</source>
+        <translation>Saisissez un nouveau mot de passe.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The passwords do not match.</source>
+        <translation>Les mots de passe ne correspondent pas.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Administrator password changed.</source>
+        <translation>Mot de passe administrateur modifié.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Change administrator password</source>
+        <translation>Modifier le mot de passe administrateur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Anyone who knows this password can change the advanced settings of this terminal.</source>
+        <translation>Toute personne qui connaît ce mot de passe peut modifier les paramètres avancés de ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Current password</source>
+        <translation>Mot de passe actuel</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>New password</source>
+        <translation>Nouveau mot de passe</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Repeat new password</source>
+        <translation>Confirmer le nouveau mot de passe</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Change password</source>
+        <translation>Modifier le mot de passe</translation>
+    </message>
+</context>
+<context>
+    <name>CertificatesModel</name>
+    <message>
+        <location filename="../src/maintenance/CertificatesModel.cpp" line="+6"/>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Not before</source>
+        <translation>Valide à partir du</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Not after</source>
+        <translation>Valide jusqu&apos;au</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Manage</source>
+        <translation>Gérer</translation>
+    </message>
+</context>
+<context>
+    <name>CertificatesPage</name>
+    <message>
+        <location filename="../qml/vorplex/CertificatesPage.qml" line="+42"/>
+        <source>Enter the password of the certificate file.</source>
+        <translation>Saisissez le mot de passe du fichier de certificat.</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Certificate added</source>
+        <translation>Certificat ajouté</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Import a certificate</source>
+        <translation>Importer un certificat</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Certificate files (.crt, .cer, .der, .pfx) on a USB drive. The certificate is trusted by this terminal and its sessions.</source>
+        <translation>Fichiers de certificat (.crt, .cer, .der, .pfx) sur une clé USB. Ce terminal et ses sessions font confiance au certificat.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Certificate file</source>
+        <translation>Fichier de certificat</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>No certificate files found</source>
+        <translation>Aucun fichier de certificat trouvé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive with certificate files, then refresh the list.</source>
+        <translation>Insérez une clé USB contenant des fichiers de certificat, puis actualisez la liste.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Refresh file list</source>
+        <translation>Actualiser la liste des fichiers</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Password of the certificate file</source>
+        <translation>Mot de passe du fichier de certificat</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Installed certificates</source>
+        <translation>Certificats installés</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Authorities this terminal trusts in addition to the system&apos;s own.</source>
+        <translation>Autorités auxquelles ce terminal fait confiance en plus de celles du système.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Show all certificates</source>
+        <translation>Afficher tous les certificats</translation>
+    </message>
+    <message>
+        <location line="+64"/>
+        <source>System certificate</source>
+        <translation>Certificat système</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <location line="+26"/>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <location line="-9"/>
+        <source>No certificates installed</source>
+        <translation>Aucun certificat installé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Import a certificate from a USB drive, or show the system&apos;s certificates too.</source>
+        <translation>Importez un certificat depuis une clé USB, ou affichez aussi les certificats du système.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Remove certificate</source>
+        <translation>Supprimer le certificat</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remove %1? This terminal and its sessions will no longer trust the servers it vouches for.</source>
+        <translation>Supprimer %1&#x202f;? Ce terminal et ses sessions ne feront plus confiance aux serveurs qu&apos;il garantit.</translation>
+    </message>
+</context>
+<context>
+    <name>CertificatesStorage</name>
+    <message>
+        <location filename="../src/maintenance/CertificatesStorage.cpp" line="+204"/>
+        <source>The file name %1 has no name before its extension.</source>
+        <translation>Le nom de fichier %1 n&apos;a pas de nom avant son extension.</translation>
+    </message>
+</context>
+<context>
+    <name>CitrixProgressPopup</name>
+    <message>
+        <location filename="../qml/vorplex/CitrixProgressPopup.qml" line="+55"/>
+        <source>Citrix resources</source>
+        <translation>Ressources Citrix</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Citrix</source>
+        <translation>Citrix</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Use resource</source>
+        <translation>Utiliser la ressource</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>The store offers no resources for this account.</source>
+        <translation>Le magasin ne propose aucune ressource pour ce compte.</translation>
+    </message>
+    <message>
+        <location line="+63"/>
+        <source>Contacting the Citrix store…</source>
+        <translation>Connexion au magasin Citrix…</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Starting the Citrix session…</source>
+        <translation>Démarrage de la session Citrix…</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionKinds</name>
+    <message>
+        <location filename="../qml/vorplex/ConnectionKinds.qml" line="+15"/>
+        <source>VMware Horizon</source>
+        <translation>VMware Horizon</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>VNC</source>
+        <translation>VNC</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Citrix</source>
+        <translation>Citrix</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remote Desktop</source>
+        <translation>Bureau à distance</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Browser</source>
+        <translation>Navigateur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Microsoft Teams</source>
+        <translation>Microsoft Teams</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PuTTY</source>
+        <translation>PuTTY</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTableModel</name>
+    <message>
+        <location filename="../src/connections/ConnectionTableModel.cpp" line="+22"/>
+        <source>Browser</source>
+        <translation>Navigateur</translation>
+    </message>
+    <message>
+        <location line="+69"/>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Server Address</source>
+        <translation>Adresse du serveur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Auto Connect</source>
+        <translation>Connexion auto</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionTile</name>
+    <message>
+        <location filename="../qml/vorplex/ConnectionTile.qml" line="+70"/>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionsPage</name>
+    <message>
+        <location filename="../qml/vorplex/ConnectionsPage.qml" line="+12"/>
+        <source>Connections</source>
+        <translation>Connexions</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>RDP</source>
+        <translation>RDP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+151"/>
+        <source>Citrix</source>
+        <translation>Citrix</translation>
+    </message>
+    <message>
+        <location line="-150"/>
+        <location line="+157"/>
+        <source>VMware Horizon</source>
+        <translation>VMware Horizon</translation>
+    </message>
+    <message>
+        <location line="-156"/>
+        <location line="+163"/>
+        <source>Browser</source>
+        <translation>Navigateur</translation>
+    </message>
+    <message>
+        <location line="-162"/>
+        <location line="+169"/>
+        <source>PuTTY</source>
+        <translation>PuTTY</translation>
+    </message>
+    <message>
+        <location line="-168"/>
+        <source>Microsoft Teams</source>
+        <translation>Microsoft Teams</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+174"/>
+        <source>VNC</source>
+        <translation>VNC</translation>
+    </message>
+    <message>
+        <location line="-135"/>
+        <source>“%1” added.</source>
+        <translation>Connexion «&#xa0;%1&#xa0;» ajoutée.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Changes to “%1” saved.</source>
+        <translation>Modifications de «&#xa0;%1&#xa0;» enregistrées.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Microsoft Teams added.</source>
+        <translation>Microsoft Teams ajouté.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Microsoft Teams is already in the list.</source>
+        <translation>Microsoft Teams figure déjà dans la liste.</translation>
+    </message>
+    <message>
+        <location line="+66"/>
+        <location line="+314"/>
+        <source>Add connection</source>
+        <translation>Ajouter une connexion</translation>
+    </message>
+    <message>
+        <location line="-298"/>
+        <source>Remote Desktop (RDP)</source>
+        <translation>Bureau à distance (RDP)</translation>
+    </message>
+    <message>
+        <location line="+52"/>
+        <source>Add Microsoft Teams</source>
+        <translation>Ajouter Microsoft Teams</translation>
+    </message>
+    <message>
+        <location line="+199"/>
+        <source>Start automatically</source>
+        <translation>Démarrer automatiquement</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Nothing to edit for this kind</source>
+        <translation>Rien à modifier pour ce type</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+71"/>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <location line="-56"/>
+        <source>No connections yet</source>
+        <translation>Aucune connexion pour l&apos;instant</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add a remote desktop, a web site or an application. Each connection appears as a tile on the home screen.</source>
+        <translation>Ajoutez un bureau à distance, un site web ou une application. Chaque connexion apparaît sous forme de vignette sur l&apos;écran d&apos;accueil.</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Applications</source>
+        <translation>Applications</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Kinds of connection that can be added on this terminal.</source>
+        <translation>Types de connexion pouvant être ajoutés sur ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>Remove connection?</source>
+        <translation>Supprimer la connexion&#x202f;?</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>“%1” will be removed from this terminal, and its tile from the home screen.</source>
+        <translation>La connexion «&#xa0;%1&#xa0;» sera supprimée de ce terminal, et sa vignette de l&apos;écran d&apos;accueil.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>“%1” removed.</source>
+        <translation>Connexion «&#xa0;%1&#xa0;» supprimée.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportSettingsPage</name>
+    <message>
+        <location filename="../qml/vorplex/ExportSettingsPage.qml" line="+33"/>
+        <source>The settings could not be saved: the drive cannot be written to.</source>
+        <translation>Impossible d&apos;enregistrer les paramètres&#xa0;: le support n&apos;est pas accessible en écriture.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Nothing was copied: the chosen settings do not exist on this terminal yet.</source>
+        <translation>Rien n&apos;a été copié&#xa0;: les paramètres choisis n&apos;existent pas encore sur ce terminal.</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+3"/>
+        <source>%n group(s) of settings saved to %1.</source>
+        <translation>
+            <numerusform>%n groupe de paramètres enregistré dans %1.</numerusform>
+            <numerusform>%n groupes de paramètres enregistrés dans %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Choose what to copy to the USB drive.</source>
+        <translation>Choisissez ce qui sera copié sur la clé USB.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Destination</source>
+        <translation>Destination</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A new folder named after this terminal and the current time is created on the drive.</source>
+        <translation>Un nouveau dossier, nommé d&apos;après ce terminal et l&apos;heure actuelle, est créé sur le support.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Choose folder to export settings</source>
+        <translation>Choisir le dossier d&apos;exportation</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>No removable drive found</source>
+        <translation>Aucun support amovible trouvé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive, then refresh the list.</source>
+        <translation>Insérez une clé USB, puis actualisez la liste.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh drive list</source>
+        <translation>Actualiser la liste des supports</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+</context>
+<context>
+    <name>FormPage</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/FormPage.qml" line="+15"/>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <location line="+51"/>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>ImportSettingsPage</name>
+    <message numerus="yes">
+        <location filename="../qml/vorplex/ImportSettingsPage.qml" line="+33"/>
+        <source>%n group(s) of settings loaded.</source>
+        <translation>
+            <numerusform>%n groupe de paramètres chargé.</numerusform>
+            <numerusform>%n groupes de paramètres chargés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <location line="+3"/>
+        <source>%n group(s) of settings loaded. Not in the saved set, so reset to their defaults: %1.</source>
+        <translation>
+            <numerusform>%n groupe de paramètres chargé. Absents de la sauvegarde, donc remis à leurs valeurs par défaut&#xa0;: %1.</numerusform>
+            <numerusform>%n groupes de paramètres chargés. Absents de la sauvegarde, donc remis à leurs valeurs par défaut&#xa0;: %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Choose what to load. A chosen group that the saved set lacks is reset to its defaults.</source>
+        <translation>Choisissez ce qui sera chargé. Un groupe choisi absent de la sauvegarde est remis à ses valeurs par défaut.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Saved settings are folders named after the terminal they came from and the time they were saved.</source>
+        <translation>Les paramètres sauvegardés sont des dossiers nommés d&apos;après leur terminal d&apos;origine et l&apos;heure de la sauvegarde.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Choose folder to import settings</source>
+        <translation>Choisir le dossier d&apos;importation</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>No saved settings found</source>
+        <translation>Aucun paramètre sauvegardé trouvé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive with exported settings, then refresh the list.</source>
+        <translation>Insérez une clé USB contenant des paramètres exportés, puis actualisez la liste.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh folder list</source>
+        <translation>Actualiser la liste des dossiers</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+16"/>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <source>Import settings</source>
+        <translation>Importer les paramètres</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The chosen settings of this terminal are replaced by the saved ones.</source>
+        <translation>Les paramètres choisis de ce terminal sont remplacés par ceux de la sauvegarde.</translation>
+    </message>
+</context>
+<context>
+    <name>LocalUpdaterBackend</name>
+    <message>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="+146"/>
+        <location line="+39"/>
+        <location line="+15"/>
+        <source>The update service sent an answer that cannot be read.</source>
+        <translation>Le service de mise à jour a envoyé une réponse illisible.</translation>
+    </message>
+    <message>
+        <location line="-37"/>
+        <source>The update service refused the request (HTTP %1).</source>
+        <translation>Le service de mise à jour a refusé la demande (HTTP %1).</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The update service did not answer in time.</source>
+        <translation>Le service de mise à jour n&apos;a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The update service is not running.</source>
+        <translation>Le service de mise à jour n&apos;est pas démarré.</translation>
+    </message>
+</context>
+<context>
+    <name>LockedPage</name>
+    <message>
+        <location filename="../qml/vorplex/LockedPage.qml" line="+19"/>
+        <source>Administrator access required</source>
+        <translation>Accès administrateur requis</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This section changes how the terminal works for everyone who uses it. Unlock the advanced settings with the administrator password to continue.</source>
+        <translation>Cette section modifie le fonctionnement du terminal pour tous ses utilisateurs. Déverrouillez les paramètres avancés avec le mot de passe administrateur pour continuer.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Unlock</source>
+        <translation>Déverrouiller</translation>
+    </message>
+</context>
+<context>
+    <name>LogsPage</name>
+    <message>
+        <location filename="../qml/vorplex/LogsPage.qml" line="+27"/>
+        <source>Export finished.</source>
+        <translation>Exportation terminée.</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Debug logging</source>
+        <translation>Journalisation de débogage</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Records detailed messages for troubleshooting. Logs grow faster while it is on.</source>
+        <translation>Enregistre des messages détaillés pour le dépannage. Les journaux grossissent plus vite tant qu&apos;elle est active.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Export logs</source>
+        <translation>Exporter les journaux</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Save the logs to a USB drive, for example to pass them on to support.</source>
+        <translation>Enregistrez les journaux sur une clé USB, par exemple pour les transmettre au support.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Choose folder to export logs</source>
+        <translation>Choisir le dossier d&apos;exportation des journaux</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No removable drive found</source>
+        <translation>Aucun support amovible trouvé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive, then refresh the list.</source>
+        <translation>Insérez une clé USB, puis actualisez la liste.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh drive list</source>
+        <translation>Actualiser la liste des supports</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Export all logs</source>
+        <translation>Exporter tous les journaux</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Current session</source>
+        <translation>Session en cours</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Messages logged since the shell was started.</source>
+        <translation>Messages journalisés depuis le démarrage du shell.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>No messages logged yet.</source>
+        <translation>Aucun message journalisé pour l&apos;instant.</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="+63"/>
+        <location line="+156"/>
+        <source>Failed to connect</source>
+        <translation>Échec de la connexion</translation>
+    </message>
+    <message>
+        <location line="-146"/>
+        <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
+        <translation>Cette connexion est incomplète et ne peut pas être démarrée. Un administrateur peut la compléter dans Paramètres → Connexions.</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Connecting to the Citrix store…</source>
+        <translation>Connexion au magasin Citrix…</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Support desk</source>
+        <translation>Service d&apos;assistance</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Alex from IT support would like to see your screen to help with your ticket.</source>
+        <translation>Alex, du support informatique, souhaite voir votre écran pour traiter votre ticket.</translation>
+    </message>
+    <message>
+        <location line="+65"/>
+        <source>Your request for help has been sent.</source>
+        <translation>Votre demande d&apos;aide a été envoyée.</translation>
+    </message>
+    <message>
+        <location line="+48"/>
+        <source>“%1” added.</source>
+        <translation>Connexion «&#xa0;%1&#xa0;» ajoutée.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Changes to “%1” saved.</source>
+        <translation>Modifications de «&#xa0;%1&#xa0;» enregistrées.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Connection error</source>
+        <translation>Erreur de connexion</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>MainView</name>
+    <message>
+        <location filename="../qml/vorplex/MainView.qml" line="+130"/>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Connections</source>
+        <translation>Connexions</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Show less</source>
+        <translation>Afficher moins</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show all (%1)</source>
+        <translation>Tout afficher (%1)</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>No connections yet</source>
+        <translation>Aucune connexion pour l&apos;instant</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remote desktops and applications will appear here as tiles. An administrator adds them in Settings → Connections.</source>
+        <translation>Les bureaux à distance et les applications apparaîtront ici sous forme de vignettes. Un administrateur les ajoute dans Paramètres → Connexions.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Open connection settings</source>
+        <translation>Ouvrir les paramètres de connexion</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>An administrator has seen your request for help and will contact you.</source>
+        <translation>Un administrateur a pris connaissance de votre demande d&apos;aide et va vous contacter.</translation>
+    </message>
+    <message>
+        <location line="+34"/>
+        <source>Norbix %1</source>
+        <translation>Norbix %1</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Thin client terminal</source>
+        <translation>Terminal client léger</translation>
+    </message>
+</context>
+<context>
+    <name>ManagementPage</name>
+    <message>
+        <location filename="../qml/vorplex/ManagementPage.qml" line="+20"/>
+        <source>Enter an address such as wss://server.example.com/api/v1/ws.</source>
+        <translation>Saisissez une adresse comme wss://server.example.com/api/v1/ws.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Server settings saved.</source>
+        <translation>Paramètres du serveur enregistrés.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Use letters, digits and hyphens only (at most 63).</source>
+        <translation>Lettres, chiffres et traits d&apos;union uniquement (63 au maximum).</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Computer name set to %1.</source>
+        <translation>Nom de l&apos;ordinateur défini sur %1.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Use at least 6 characters.</source>
+        <translation>Utilisez au moins 6 caractères.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Remote assistance password set.</source>
+        <translation>Mot de passe d&apos;assistance à distance défini.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Managed by a server</source>
+        <translation>Géré par un serveur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The management server can change settings, connections and certificates, and update or restart this terminal.</source>
+        <translation>Le serveur de gestion peut modifier les paramètres, les connexions et les certificats, et mettre à jour ou redémarrer ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Not managed</source>
+        <translation>Non géré</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connected to the management server</source>
+        <translation>Connecté au serveur de gestion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Not connected; the terminal keeps trying</source>
+        <translation>Non connecté&#x202f;; le terminal continue d&apos;essayer</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Server</source>
+        <translation>Serveur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Where the terminal registers and which account it belongs to.</source>
+        <translation>Où le terminal s&apos;enregistre et à quel compte il appartient.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Server address</source>
+        <translation>Adresse du serveur</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Account</source>
+        <translation>Compte</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Organisation account on the server</source>
+        <translation>Compte de l&apos;organisation sur le serveur</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Save server settings</source>
+        <translation>Enregistrer les paramètres du serveur</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Computer name</source>
+        <translation>Nom de l&apos;ordinateur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The name of this terminal on the server and on the network. Leave it empty to use the name made from the network adapter.</source>
+        <translation>Le nom de ce terminal sur le serveur et sur le réseau. Laissez vide pour utiliser le nom dérivé de la carte réseau.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Set name</source>
+        <translation>Définir le nom</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Remote assistance</source>
+        <translation>Assistance à distance</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Password of this terminal&apos;s screen sharing, used when an administrator connects for support.</source>
+        <translation>Mot de passe du partage d&apos;écran de ce terminal, utilisé quand un administrateur s&apos;y connecte pour l&apos;assistance.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>New password</source>
+        <translation>Nouveau mot de passe</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Set password</source>
+        <translation>Définir le mot de passe</translation>
+    </message>
+</context>
+<context>
+    <name>ModalDialog</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/ModalDialog.qml" line="+11"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>NavItem</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/NavItem.qml" line="+21"/>
+        <source>%1 (locked)</source>
+        <translation>%1 (verrouillé)</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordField</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/PasswordField.qml" line="+58"/>
+        <source>Hide password</source>
+        <translation>Masquer le mot de passe</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Show password</source>
+        <translation>Afficher le mot de passe</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceholderCard</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/PlaceholderCard.qml" line="+8"/>
+        <source>Not available on this terminal yet</source>
+        <translation>Pas encore disponible sur ce terminal</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>These settings arrive with a later software update. Until then the terminal keeps its current configuration, and nothing here needs your attention.</source>
+        <translation>Ces paramètres arriveront avec une prochaine mise à jour logicielle. D&apos;ici là, le terminal conserve sa configuration actuelle et rien ici ne demande votre attention.</translation>
+    </message>
+</context>
+<context>
+    <name>RDPConnector</name>
+    <message>
+        <location filename="../src/connectors/RDPConnector.cpp" line="+91"/>
+        <source>Failed to authorize user</source>
+        <translation>Échec de l&apos;autorisation de l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Invalid IP</source>
+        <translation>Adresse IP non valide</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Failed to connect</source>
+        <translation>Échec de la connexion</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Host not found</source>
+        <translation>Hôte introuvable</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Error: </source>
+        <translation>Erreur&#xa0;: </translation>
+    </message>
+</context>
+<context>
+    <name>RDPLoginDialog</name>
+    <message>
+        <location filename="../qml/vorplex/RDPLoginDialog.qml" line="+32"/>
+        <source>Sign in</source>
+        <translation>Identification</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Enter your user name and password to start the session.</source>
+        <translation>Saisissez votre nom d&apos;utilisateur et votre mot de passe pour démarrer la session.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enter your user name and password for “%1”.</source>
+        <translation>Saisissez votre nom d&apos;utilisateur et votre mot de passe pour «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter your user name and password for “%1” on %2.</source>
+        <translation>Saisissez votre nom d&apos;utilisateur et votre mot de passe pour «&#xa0;%1&#xa0;» sur %2.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Connect</source>
+        <translation>Se connecter</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>User name can&apos;t be empty</source>
+        <translation>Le nom d&apos;utilisateur ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>User name</source>
+        <translation>Nom d&apos;utilisateur</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+</context>
+<context>
+    <name>SectionCatalog</name>
+    <message>
+        <location filename="../qml/vorplex/SectionCatalog.qml" line="+9"/>
+        <source>Connectivity</source>
+        <translation>Connectivité</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Connections</source>
+        <translation>Connexions</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remote sessions that appear as tiles on the home screen.</source>
+        <translation>Sessions distantes affichées sous forme de vignettes sur l&apos;écran d&apos;accueil.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Wired network</source>
+        <translation>Réseau filaire</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ethernet addressing, DNS and proxy.</source>
+        <translation>Adressage Ethernet, DNS et proxy.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Wireless networks and saved credentials.</source>
+        <translation>Réseaux sans fil et identifiants enregistrés.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>802.1X authentication</source>
+        <translation>Authentification 802.1X</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Port-based network access control for wired and wireless networks.</source>
+        <translation>Contrôle d&apos;accès réseau par port pour les réseaux filaires et sans fil.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Host name</source>
+        <translation>Nom d&apos;hôte</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The name this terminal uses on the network.</source>
+        <translation>Le nom de ce terminal sur le réseau.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Displays</source>
+        <translation>Écrans</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Resolution, arrangement and orientation of connected monitors.</source>
+        <translation>Résolution, disposition et orientation des moniteurs connectés.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Power saving</source>
+        <translation>Économie d&apos;énergie</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Screen blanking and standby timing.</source>
+        <translation>Extinction de l&apos;écran et délais de mise en veille.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date &amp; time</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Time zone, clock format and time servers.</source>
+        <translation>Fuseau horaire, format de l&apos;horloge et serveurs de temps.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Sound</source>
+        <translation>Son</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Output and input devices and volume.</source>
+        <translation>Périphériques de sortie et d&apos;entrée, volume.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Keyboard</source>
+        <translation>Clavier</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Keyboard layout and key repeat.</source>
+        <translation>Disposition du clavier et répétition des touches.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Mouse</source>
+        <translation>Souris</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Pointer speed, button order and double-click timing.</source>
+        <translation>Vitesse du pointeur, ordre des boutons et délai du double-clic.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Display language and regional formats.</source>
+        <translation>Langue d&apos;affichage et formats régionaux.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Wallpaper</source>
+        <translation>Fond d&apos;écran</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Background image of the home screen.</source>
+        <translation>Image d&apos;arrière-plan de l&apos;écran d&apos;accueil.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Devices</source>
+        <translation>Périphériques</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Printers</source>
+        <translation>Imprimantes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Local and network printers available to sessions.</source>
+        <translation>Imprimantes locales et réseau disponibles pour les sessions.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB storage</source>
+        <translation>Stockage USB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Access to USB drives on this terminal and in sessions.</source>
+        <translation>Accès aux clés USB sur ce terminal et dans les sessions.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Security</source>
+        <translation>Sécurité</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Certificates</source>
+        <translation>Certificats</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Trusted certificate authorities and client certificates.</source>
+        <translation>Autorités de certification de confiance et certificats clients.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Administrator password</source>
+        <translation>Mot de passe administrateur</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The password that protects the advanced settings.</source>
+        <translation>Le mot de passe qui protège les paramètres avancés.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Management</source>
+        <translation>Gestion</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Management server</source>
+        <translation>Serveur de gestion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Central management of this terminal.</source>
+        <translation>Gestion centralisée de ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Updates</source>
+        <translation>Mises à jour</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Software updates for this terminal.</source>
+        <translation>Mises à jour logicielles de ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Export settings</source>
+        <translation>Exporter les paramètres</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Save this terminal&apos;s configuration to a USB drive.</source>
+        <translation>Enregistrer la configuration de ce terminal sur une clé USB.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Import settings</source>
+        <translation>Importer les paramètres</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Load a configuration from a USB drive.</source>
+        <translation>Charger une configuration depuis une clé USB.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Support</source>
+        <translation>Assistance</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Logs</source>
+        <translation>Journaux</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Diagnostic messages of this session and export for support.</source>
+        <translation>Messages de diagnostic de cette session et exportation pour le support.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>System information</source>
+        <translation>Informations système</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Hardware, software version and network details.</source>
+        <translation>Matériel, version du logiciel et détails du réseau.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsGroupsCard</name>
+    <message>
+        <location filename="../qml/vorplex/SettingsGroupsCard.qml" line="+10"/>
+        <source>Display settings</source>
+        <translation>Paramètres d&apos;affichage</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Keyboard and Mouse</source>
+        <translation>Clavier et souris</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Language settings</source>
+        <translation>Paramètres de langue</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connections</source>
+        <translation>Connexions</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Time settings</source>
+        <translation>Paramètres de l&apos;heure</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>API settings</source>
+        <translation>Paramètres de l&apos;API</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Admin password</source>
+        <translation>Mot de passe admin</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Wallpapers</source>
+        <translation>Fonds d&apos;écran</translation>
+    </message>
+    <message>
+        <location line="+31"/>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Clear all</source>
+        <translation>Tout désélectionner</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Select all</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <location filename="../qml/vorplex/SettingsView.qml" line="+109"/>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Home</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Back to home</source>
+        <translation>Retour à l&apos;accueil</translation>
+    </message>
+    <message>
+        <location line="+153"/>
+        <source>Advanced settings</source>
+        <translation>Mode avancé</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Unlocked</source>
+        <translation>Déverrouillé</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Locked</source>
+        <translation>Verrouillé</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Lock</source>
+        <translation>Verrouiller</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Unlock</source>
+        <translation>Déverrouiller</translation>
+    </message>
+</context>
+<context>
+    <name>TeamsPopup</name>
+    <message>
+        <location filename="../qml/vorplex/TeamsPopup.qml" line="+33"/>
+        <source>Microsoft Teams</source>
+        <translation>Microsoft Teams</translation>
+    </message>
+</context>
+<context>
+    <name>Toast</name>
+    <message>
+        <location filename="../qml/custom/NorbixUi/Toast.qml" line="+76"/>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesPage</name>
+    <message>
+        <location filename="../qml/vorplex/UpdatesPage.qml" line="+11"/>
+        <source>Contacting the update service…</source>
+        <translation>Connexion au service de mise à jour…</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Update service unavailable</source>
+        <translation>Service de mise à jour indisponible</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ready</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Checking for updates</source>
+        <translation>Recherche de mises à jour</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Downloading update</source>
+        <translation>Téléchargement de la mise à jour</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Installing update</source>
+        <translation>Installation de la mise à jour</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Update installed</source>
+        <translation>Mise à jour installée</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Update failed</source>
+        <translation>Échec de la mise à jour</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>The terminal is being reset to its factory settings.</source>
+        <translation>Le terminal est en cours de réinitialisation aux paramètres d&apos;usine.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The update service is installing the package.</source>
+        <translation>Le service de mise à jour installe le paquet.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Check now</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <location line="+39"/>
+        <source>Installed version: %1</source>
+        <translation>Version installée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <location line="+37"/>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Available updates</source>
+        <translation>Mises à jour disponibles</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Versions the update service offers for this terminal.</source>
+        <translation>Versions proposées par le service de mise à jour pour ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>System %1</source>
+        <translation>Système %1</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Shell %1</source>
+        <translation>Shell %1</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Install</source>
+        <translation>Installer</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>No updates available</source>
+        <translation>Aucune mise à jour disponible</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>No information about updates</source>
+        <translation>Aucune information sur les mises à jour</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This terminal runs the newest software the update service knows of.</source>
+        <translation>Ce terminal exécute la version la plus récente connue du service de mise à jour.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Available versions appear here while the update service is running.</source>
+        <translation>Les versions disponibles apparaissent ici lorsque le service de mise à jour est actif.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Install updates automatically</source>
+        <translation>Installer les mises à jour automatiquement</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A newer version of the shell is installed as soon as the update service offers it.</source>
+        <translation>Une version plus récente du shell est installée dès que le service de mise à jour la propose.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Install from a USB drive</source>
+        <translation>Installer depuis une clé USB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>An update package (.deb) for terminals without access to the update server.</source>
+        <translation>Un paquet de mise à jour (.deb) pour les terminaux sans accès au serveur de mises à jour.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Update package</source>
+        <translation>Paquet de mise à jour</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No update packages found</source>
+        <translation>Aucun paquet de mise à jour trouvé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive with an update package, then refresh the list.</source>
+        <translation>Insérez une clé USB contenant un paquet de mise à jour, puis actualisez la liste.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh package list</source>
+        <translation>Actualiser la liste des paquets</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Install package</source>
+        <translation>Installer le paquet</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <location line="+14"/>
+        <source>Factory reset</source>
+        <translation>Réinitialisation d&apos;usine</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Every setting and connection of this terminal is erased and the terminal restarts with its factory settings.</source>
+        <translation>Tous les paramètres et connexions de ce terminal sont effacés, puis le terminal redémarre avec ses paramètres d&apos;usine.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+</context>
+<context>
+    <name>VMWareConnectDialog</name>
+    <message>
+        <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="+33"/>
+        <source>Connection name can&apos;t be empty</source>
+        <translation>Le nom de la connexion ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Server address can&apos;t be empty</source>
+        <translation>L&apos;adresse du serveur ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Edit VMWare Horizon Connection</source>
+        <translation>Modifier la connexion VMware Horizon</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add VMWare Horizon Connection</source>
+        <translation>Ajouter une connexion VMware Horizon</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A virtual desktop from a VMware Horizon connection server.</source>
+        <translation>Un bureau virtuel fourni par un serveur de connexion VMware Horizon.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Add connection</source>
+        <translation>Ajouter une connexion</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Connection name</source>
+        <translation>Nom de la connexion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shown on the home screen</source>
+        <translation>Affiché sur l&apos;écran d&apos;accueil</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Server address</source>
+        <translation>Adresse du serveur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connection server, e.g. horizon.example.com</source>
+        <translation>Serveur, p. ex. horizon.example.com</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Protocol</source>
+        <translation>Protocole</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Display protocol of the desktop session.</source>
+        <translation>Protocole d&apos;affichage de la session de bureau.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Credentials</source>
+        <translation>Identifiants</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Remember credentials</source>
+        <translation>Mémoriser les identifiants</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>User name and password are saved with the connection.</source>
+        <translation>Le nom d&apos;utilisateur et le mot de passe sont enregistrés avec la connexion.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User name and password are not saved with the connection.</source>
+        <translation>Le nom d&apos;utilisateur et le mot de passe ne sont pas enregistrés avec la connexion.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>User name</source>
+        <translation>Nom d&apos;utilisateur</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Domain</source>
+        <translation>Domaine</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Optional</source>
+        <translation>Facultatif</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Desktop</source>
+        <translation>Bureau</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Optional: the desktop pool to open</source>
+        <translation>Facultatif&#xa0;: pool de bureaux à ouvrir</translation>
+    </message>
+</context>
+</TS>
