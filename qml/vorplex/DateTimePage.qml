@@ -246,17 +246,20 @@ PageScaffold {
 
                     FormComboBox {
                         id: hourBox
+                        objectName: "hourBox"
                         Layout.fillWidth: true
                         label: qsTr("Hour")
                     }
                     FormComboBox {
                         id: minuteBox
+                        objectName: "minuteBox"
                         Layout.fillWidth: true
                         label: qsTr("Minute")
                         model: page.minutes
                     }
                     SegmentedControl {
                         id: amPmControl
+                        objectName: "amPmControl"
                         Layout.alignment: Qt.AlignBottom
                         visible: !page.use24
                         model: [qsTr("AM"), qsTr("PM")]
@@ -265,6 +268,7 @@ PageScaffold {
 
                 FormComboBox {
                     id: zoneBox
+                    objectName: "zoneBox"
                     Layout.fillWidth: true
                     label: qsTr("Time zone")
                     placeholderText: qsTr("Choose a time zone")
@@ -272,6 +276,7 @@ PageScaffold {
 
                 FormField {
                     id: ntpField
+                    objectName: "ntpField"
                     Layout.fillWidth: true
                     label: qsTr("Time server (NTP)")
                     placeholderText: "pool.ntp.org"

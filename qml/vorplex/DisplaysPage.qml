@@ -97,6 +97,7 @@ PageScaffold {
 
     DisplayRevertGuard {
         id: revertGuard
+        objectName: "revertGuard"
         onReverted: {
             confirmDialog.close();
             page.reload();
@@ -243,6 +244,7 @@ PageScaffold {
 
             SegmentedControl {
                 id: modeControl
+                objectName: "modeControl"
                 model: [qsTr("Extend"), qsTr("Mirror")]
             }
         }
@@ -261,6 +263,7 @@ PageScaffold {
 
             FormComboBox {
                 id: resolutionBox
+                objectName: "resolutionBox"
                 Layout.fillWidth: true
                 label: qsTr("Resolution")
                 onActivated: {
@@ -270,12 +273,14 @@ PageScaffold {
             }
             FormComboBox {
                 id: rateBox
+                objectName: "rateBox"
                 Layout.fillWidth: true
                 label: qsTr("Refresh rate (Hz)")
                 onActivated: page.remember()
             }
             FormComboBox {
                 id: orientationBox
+                objectName: "orientationBox"
                 Layout.fillWidth: true
                 label: qsTr("Orientation")
                 model: page.orientationNames
@@ -308,6 +313,7 @@ PageScaffold {
 
     ModalDialog {
         id: confirmDialog
+        objectName: "confirmDialog"
         title: qsTr("Keep these settings?")
         message: qsTr("The previous settings come back in %n second(s).", "", revertGuard.secondsLeft)
         okText: qsTr("Keep settings")
