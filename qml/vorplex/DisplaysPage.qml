@@ -341,6 +341,7 @@ PageScaffold {
 
     // One window in the middle of each monitor with its number.
     Instantiator {
+        objectName: "identifyWindows"
         model: page.identifying ? screenModel : null
         delegate: Window {
             readonly property rect area: ScreensBackend.getGeometry(model.name)

@@ -71,7 +71,7 @@ void ScreensBackend::updateInfo()
     const QList<XrandrOutput> outputs = XrandrParser::parse(result.standardOutput);
     if (outputs.isEmpty()) {
         // Nothing usable came back: keep what was read before rather than show no monitor at all.
-        qWarning().noquote() << "xrandr reported no connected output:" << QString::fromLocal8Bit(result.standardError).trimmed();
+        qInfo().noquote() << "xrandr reported no connected output:" << QString::fromLocal8Bit(result.standardError).trimmed();
         emit screensChanged();
         return;
     }

@@ -55,7 +55,7 @@ void TimeBackend::updateLocalTimezone()
     const CommandResult result = CommandRunner::instance().run(QStringLiteral("timedatectl"), {});
     const QString zone = TimeZoneTable::parseTimedatectlZone(result.standardOutput);
     if (zone.isEmpty()) {
-        qWarning().noquote() << "No time zone in timedatectl's answer: " + QString::fromLocal8Bit(result.standardError).trimmed();
+        qInfo().noquote() << "No time zone in timedatectl's answer: " + QString::fromLocal8Bit(result.standardError).trimmed();
         return;
     }
     m_currentTimezone = zone;

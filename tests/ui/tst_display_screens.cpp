@@ -149,6 +149,32 @@ private slots:
         QCOMPARE(m_objects->screenModel.getName(0), QStringLiteral("DP-1"));
     }
 
+    // One window per monitor, in the middle of it, numbered as the arrangement numbers it.
+    void identify()
+    {
+        ScreensBackend* screens = ScreensBackend::getInstance();
+        screens->reset();
+        screens->updateInfo();
+        QScopedPointer<QQuickWindow> window(host(*m_engine, QStringLiteral("DisplaysPage.qml")));
+        QVERIFY(window);
+        QObject* page = pageOf(window.data());
+        QObject* windows = child(page, "identifyWindows");
+        QCOMPARE(windows->property("count").toInt(), 0);
+        page->setProperty("identifying", true);
+        QCOMPARE(windows->property("count").toInt(), 2);
+        for (int i = 0; i < 2; ++i) {
+            QObject* shown = nullptr;
+            QMetaObject::invokeMethod(windows, "objectAt", Q_RETURN_ARG(QObject*, shown), Q_ARG(int, i));
+            auto* identifyWindow = qobject_cast<QWindow*>(shown);
+            QVERIFY(identifyWindow);
+            const QRect area = screens->getGeometry(m_objects->screenModel.getName(i));
+            QVERIFY(area.contains(identifyWindow->geometry()));
+            QCOMPARE(identifyWindow->geometry().center().x(), area.center().x());
+        }
+        page->setProperty("identifying", false);
+        QCOMPARE(windows->property("count").toInt(), 0);
+    }
+
     void powerSaving()
     {
         QScopedPointer<QQuickWindow> window(host(*m_engine, QStringLiteral("PowerPage.qml")));
