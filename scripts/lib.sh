@@ -13,6 +13,7 @@ NORBIX_PACKAGES=(
     xvfb xauth x11-xserver-utils
     freerdp2-x11 freerdp2-shadow-x11 winpr-utils x11vnc
     python3 python3-websockets
+    xserver-xorg-core xserver-xorg-video-dummy xautolock psmisc procps tzdata
 )
 
 # The peers and tools scripts/bench compares the VNC viewer with.

@@ -23,11 +23,11 @@ QtObject {
         {
             title: qsTr("Preferences"),
             sections: [
-                { id: "displays", title: qsTr("Displays"), icon: "monitor", admin: false, page: "",
+                { id: "displays", title: qsTr("Displays"), icon: "monitor", admin: false, page: "DisplaysPage.qml",
                   description: qsTr("Resolution, arrangement and orientation of connected monitors.") },
-                { id: "power", title: qsTr("Power saving"), icon: "power", admin: false, page: "",
+                { id: "power", title: qsTr("Power saving"), icon: "power", admin: false, page: "PowerPage.qml",
                   description: qsTr("Screen blanking and standby timing.") },
-                { id: "datetime", title: qsTr("Date & time"), icon: "clock", admin: false, page: "",
+                { id: "datetime", title: qsTr("Date & time"), icon: "clock", admin: false, page: "DateTimePage.qml",
                   description: qsTr("Time zone, clock format and time servers.") },
                 { id: "sound", title: qsTr("Sound"), icon: "sound", admin: false, page: "",
                   description: qsTr("Output and input devices and volume.") },

@@ -6,6 +6,7 @@
 #include "CertificatesStorage.h"
 #include "CitrixConnector.h"
 #include "ConnectionManager.h"
+#include "DisplayRevertGuard.h"
 #include "LanguageBackend.h"
 #include "LocalUpdaterBackend.h"
 #include "LogManager.h"
@@ -15,8 +16,10 @@
 #include "RDPConnectDialogBackend.h"
 #include "RDPConnector.h"
 #include "RemoteAssistanceBackend.h"
+#include "ScreensBackend.h"
 #include "SettingsManager.h"
 #include "TeamsConnector.h"
+#include "TimeBackend.h"
 #include "USBManager.h"
 #include "Updater.h"
 #include "VMWareConnectDialogBackend.h"
@@ -46,6 +49,9 @@ void registerQmlTypes()
     qmlRegisterType<SettingsManager>("com.SettingsManager", 1, 0, "SettingsManager");
     qmlRegisterSingletonType<VNCConnector>("com.VNCConnector", 1, 0, "VNCConnector", &VNCConnector::qmlInstance);
     qmlRegisterSingletonType<ConnectionManager>("com.ConnectionManager", 1, 0, "ConnectionManager", &ConnectionManager::qmlInstance);
+    qmlRegisterSingletonType<ScreensBackend>("com.ScreensBackend", 1, 0, "ScreensBackend", &ScreensBackend::qmlInstance);
+    qmlRegisterSingletonType<TimeBackend>("com.TimeBackend", 1, 0, "TimeBackend", &TimeBackend::qmlInstance);
+    qmlRegisterType<DisplayRevertGuard>("com.DisplayRevertGuard", 1, 0, "DisplayRevertGuard");
     qmlRegisterSingletonType<RDPConnector>("com.RDPConnector", 1, 0, "RDPConnector", &RDPConnector::qmlInstance);
     qmlRegisterSingletonType<Updater>("com.Updater", 1, 0, "Updater", &Updater::qmlInstance);
     qmlRegisterSingletonType<APIManager>("com.APIManager", 1, 0, "APIManager", &APIManager::qmlInstance);
@@ -63,5 +69,6 @@ void ContextObjects::publish(QQmlContext* context)
     context->setContextProperty(QStringLiteral("hardwareUtils"), &hardwareUtils);
     context->setContextProperty(QStringLiteral("cryptoUtils"), &cryptoUtils);
     context->setContextProperty(QStringLiteral("certModel"), &certModel);
+    context->setContextProperty(QStringLiteral("screenModel"), &screenModel);
     qInfo() << "Models ready";
 }

@@ -6,6 +6,7 @@
 #include "ConnectionsModel.h"
 #include "CryptoUtils.h"
 #include "HardwareUtils.h"
+#include "ScreenListModel.h"
 
 class QQmlContext;
 
@@ -20,6 +21,7 @@ struct ContextObjects {
     HardwareUtils hardwareUtils;
     CryptoUtils cryptoUtils;
     CertificatesModel certModel;
+    ScreenListModel screenModel;
 
     // Publishes them (logging the models' "prepare" lines), then logs "Models ready".
     void publish(QQmlContext* context);

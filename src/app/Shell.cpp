@@ -12,6 +12,7 @@
 #include "QmlRegistration.h"
 #include "RawImageProvider.h"
 #include "RenderingSetup.h"
+#include "ScreensBackend.h"
 #include "SettingsChange.h"
 #include "SettingsManager.h"
 #include "ShellOptions.h"
@@ -129,6 +130,8 @@ int runShell(int argc, char* argv[])
 
     ContextObjects contextObjects;
     contextObjects.publish(engine.rootContext());
+    // The saved display arrangement is put back on every start.
+    ScreensBackend::getInstance()->loadInitial();
 
     const QString identity = HardwareUtils::deviceIdentity(HardwareUtils::inventory());
     const QString kernel = kernelDescription();

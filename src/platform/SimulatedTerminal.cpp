@@ -1,6 +1,8 @@
 #include "SimulatedTerminal.h"
 
 #include "SimulatedCertificates.h"
+#include "SimulatedDisplays.h"
+#include "SimulatedTime.h"
 #include "SystemPaths.h"
 
 #include <QDir>
@@ -213,6 +215,10 @@ SimulatedTerminal::Answer SimulatedTerminal::answer(const QString& program, cons
     if (auto answer = portScan(program, arguments))
         return *answer;
     if (auto answer = SimulatedCertificates::answer(program, arguments))
+        return *answer;
+    if (auto answer = SimulatedDisplays::answer(program, arguments))
+        return *answer;
+    if (auto answer = SimulatedTime::answer(program, arguments))
         return *answer;
     if (auto answer = fromTable(program, arguments))
         return *answer;

@@ -1,0 +1,92 @@
+// The saved display arrangement is put back when the shell starts.
+#include "Logging.h"
+#include "ShellProcess.h"
+#include "TestSandbox.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class tst_StartupDisplay : public QObject {
+    Q_OBJECT
+
+    struct Run {
+        QStringList commands;
+        QString log;
+    };
+
+    static Run start(const QByteArray& displayIni)
+    {
+        TestSandbox sandbox;
+        QTemporaryDir workingDir;
+        if (!displayIni.isNull())
+            TestSandbox::writeFile(sandbox.dataFile(QStringLiteral("display.ini")), displayIni);
+        ShellProcess shell;
+        shell.workingDirectory = workingDir.path();
+        shell.environment.insert(QStringLiteral("NORBIX_SIMULATE"), QStringLiteral("1"));
+        shell.environment.insert(QStringLiteral("NORBIX_ROOT"), sandbox.root());
+        shell.environment.insert(QStringLiteral("HOME"), sandbox.home());
+        shell.environment.insert(QStringLiteral("NORBIX_COMMAND_LOG"), sandbox.home() + QStringLiteral("/commands.jsonl"));
+        shell.environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        shell.environment.remove(QStringLiteral("DISPLAY"));
+        const ShellRun run = shell.run(QStringLiteral(NORBIX_SHELL_BINARY),
+                                       {"--screenshot", sandbox.home() + QStringLiteral("/shot.png"), "--size", "1280x720"});
+        if (run.exitCode != 0)
+            qWarning() << run.err;
+        Run result;
+        for (const QByteArray& line : TestSandbox::readFile(sandbox.home() + QStringLiteral("/commands.jsonl")).split('\n')) {
+            const QJsonObject object = QJsonDocument::fromJson(line).object();
+            if (object.isEmpty())
+                continue;
+            QStringList words(object.value("program").toString());
+            for (const QJsonValue& arg : object.value("args").toArray())
+                words << arg.toString();
+            result.commands << words.join(QLatin1Char(' '));
+        }
+        result.log = QString::fromUtf8(TestSandbox::readFile(Logging::logFilePath(QDate::currentDate())));
+        return result;
+    }
+
+private slots:
+    void replay_data()
+    {
+        QTest::addColumn<QByteArray>("displayIni");
+        QTest::addColumn<QString>("command"); // empty: no layout command
+        QTest::addColumn<QString>("logLine");
+        QTest::newRow("saved order differs")
+            << QByteArray("Mode=0\n[DP-1]\nResolution=1280x720\nRate=59.94\nPrimary=true\nOrientation=2\n[Order]\nScreenOrder=\"DP-1,HDMI-1\"\n")
+            << "xrandr --output HDMI-1 --mode 1920x1080 --rotate normal --rate 60.00 --output DP-1 --left-of HDMI-1 "
+               "--mode 1280x720 --rotate left --rate 59.94 --primary"
+            << "Order not equeal to constructed";
+        QTest::newRow("same order, mirror")
+            << QByteArray("Mode=1\n[Order]\nScreenOrder=\"HDMI-1,DP-1\"\n")
+            << "xrandr --output DP-1 --mode 1920x1080 --rotate normal --rate 60.00 --output HDMI-1 --same-as DP-1 "
+               "--mode 1920x1080 --rotate normal --rate 60.00 --primary"
+            << "Order equeal to constructed";
+        QTest::newRow("nothing saved") << QByteArray() << "" << "No saved display settings";
+    }
+    void replay()
+    {
+        QFETCH(QByteArray, displayIni);
+        QFETCH(QString, command);
+        QFETCH(QString, logLine);
+        const Run run = start(displayIni);
+        QStringList layouts;
+        for (const QString& line : run.commands) {
+            if (line.startsWith(QLatin1String("xrandr --output")))
+                layouts << line;
+        }
+        QCOMPARE(layouts, command.isEmpty() ? QStringList() : QStringList(command));
+        QVERIFY2(run.log.contains(logLine), qPrintable(run.log));
+        // Replayed after the models are published and before the agent starts.
+        const int models = run.log.indexOf(QLatin1String("Models ready"));
+        QVERIFY(models >= 0);
+        QVERIFY(run.log.indexOf(logLine) > models);
+        QVERIFY(run.log.indexOf(QLatin1String("Computer name")) > run.log.indexOf(logLine));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_StartupDisplay)
+#include "tst_startup_display.moc"
