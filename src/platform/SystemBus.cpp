@@ -35,6 +35,12 @@ void registerTypes()
 
 QJsonValue argumentToJson(const QDBusArgument& argument);
 
+// Certificate blobs end in a NUL byte; the sized overload keeps it (the other stops there).
+QJsonValue bytesToJson(const QByteArray& bytes)
+{
+    return QString::fromUtf8(bytes.constData(), bytes.size());
+}
+
 QJsonValue basicToJson(const QVariant& value)
 {
     switch (static_cast<int>(value.type())) {
@@ -50,7 +56,7 @@ QJsonValue basicToJson(const QVariant& value)
     case QMetaType::Double:
         return value.toDouble();
     case QMetaType::QByteArray:
-        return QString::fromUtf8(value.toByteArray());
+        return bytesToJson(value.toByteArray());
     default:
         break;
     }
@@ -75,7 +81,7 @@ QJsonValue argumentToJson(const QDBusArgument& argument)
         if (argument.currentSignature() == QLatin1String("ay")) {
             QByteArray bytes;
             argument >> bytes;
-            return QString::fromUtf8(bytes);
+            return bytesToJson(bytes);
         }
         QJsonArray list;
         argument.beginArray();
