@@ -13,6 +13,7 @@ NORBIX_PACKAGES=(
     xvfb xauth x11-xserver-utils
     freerdp2-x11 freerdp2-shadow-x11 winpr-utils x11vnc
     python3 python3-websockets
+    network-manager python3-dbusmock iputils-ping iw
 )
 
 # The peers and tools scripts/bench compares the VNC viewer with.

@@ -7,6 +7,8 @@ Usage: nm_peer.py [--no-profiles]
 Prints "BUS <address>" once ready, then reads commands on stdin:
   dump   prints the settings and secrets of Settings/1 as one JSON line ("DUMP {...}")
   calls  prints the method names Settings/1 received, in order ("CALLS [...]")
+  reset  forgets the calls received so far ("RESET")
+  remove takes Settings/1 off the bus ("REMOVED")
   quit   stops the bus and the mock
 """
 import json
@@ -131,6 +133,9 @@ def main():
         elif command == 'reset':
             control.NxReset()
             print('RESET', flush=True)
+        elif command == 'remove':
+            dbus_mock.RemoveObject(DOT1X_PATH)
+            print('REMOVED', flush=True)
         elif command == 'quit':
             break
     server.terminate()
