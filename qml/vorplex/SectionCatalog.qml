@@ -10,8 +10,8 @@ QtObject {
             sections: [
                 { id: "connections", title: qsTr("Connections"), icon: "plug", admin: true, page: "ConnectionsPage.qml",
                   description: qsTr("Remote sessions that appear as tiles on the home screen.") },
-                { id: "network-wired", title: qsTr("Wired network"), icon: "network", admin: true, page: "",
-                  description: qsTr("Ethernet addressing, DNS and proxy.") },
+                { id: "network-wired", title: qsTr("Wired network"), icon: "network", admin: true, page: "WiredNetworkPage.qml",
+                  description: qsTr("Ethernet addressing and DNS servers.") },
                 { id: "network-wifi", title: qsTr("Wi-Fi"), icon: "wifi", admin: true, page: "",
                   description: qsTr("Wireless networks and saved credentials.") },
                 { id: "network-8021x", title: qsTr("802.1X authentication"), icon: "shield", admin: true, page: "",

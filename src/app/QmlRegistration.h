@@ -6,6 +6,9 @@
 #include "ConnectionsModel.h"
 #include "CryptoUtils.h"
 #include "HardwareUtils.h"
+#include "UserAvailableWifiModel.h"
+#include "WiFiAvailableConnectionsModel.h"
+#include "WiFiSavedConnectionsModel.h"
 
 class QQmlContext;
 
@@ -16,6 +19,9 @@ void registerQmlTypes();
 struct ContextObjects {
     ConnectionTableModel connectionTableModel;
     ConnectionsModel connectionsModel;
+    WiFiAvailableConnectionsModel wifiAvailableModel;
+    WiFiSavedConnectionsModel wifiSavedModel;
+    UserAvailableWifiModel wifiUserAvailable;
     ClipboardProxy clipboard;
     HardwareUtils hardwareUtils;
     CryptoUtils cryptoUtils;

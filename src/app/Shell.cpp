@@ -9,6 +9,7 @@
 #include "HardwareUtils.h"
 #include "LanguageBackend.h"
 #include "Logging.h"
+#include "NetworkManager.h"
 #include "QmlRegistration.h"
 #include "RawImageProvider.h"
 #include "RenderingSetup.h"
@@ -125,6 +126,10 @@ int runShell(int argc, char* argv[])
 
     ContextObjects contextObjects;
     contextObjects.publish(engine.rootContext());
+
+    // Network start-up: the stored Wi-Fi network marked for auto-connect is brought up.
+    NetworkManager networkManager;
+    networkManager.autoConnect();
 
     const QString identity = HardwareUtils::deviceIdentity(HardwareUtils::inventory());
     const QString kernel = kernelDescription();
