@@ -331,10 +331,12 @@ std::optional<SimulatedTerminal::Answer> nmcli(Network& net, const QStringList& 
         return output(connectionTable(net));
     if (joined == QLatin1String("dev") || joined == QLatin1String("device") || joined == QLatin1String("device status"))
         return output(deviceTable(net));
-    if (args.size() >= 2 && args.at(0) == QLatin1String("device") && args.at(1) == QLatin1String("show")) {
+    // The whole listing stays the recorded one (the device identity and the computer name are made
+    // from it); one device's view follows the model.
+    if (args.size() == 3 && args.at(0) == QLatin1String("device") && args.at(1) == QLatin1String("show")) {
         QStringList blocks;
         for (const Device& device : net.devices) {
-            if (args.size() == 2 || args.at(2) == device.name)
+            if (args.at(2) == device.name)
                 blocks << deviceBlock(net, device);
         }
         if (blocks.isEmpty())

@@ -146,16 +146,21 @@ protected:
     {
         registerTypes();
         QDBusConnection bus = QDBusConnection::systemBus();
+        // No bus or no service is the normal state of a machine without NetworkManager: the
+        // callers carry on with an empty answer, so it is not worth a warning.
         if (!bus.isConnected()) {
-            qWarning().noquote() << "System bus unavailable:" << bus.lastError().message();
+            qInfo().noquote() << "System bus unavailable:" << bus.lastError().message();
             return std::nullopt;
         }
         QDBusMessage message = QDBusMessage::createMethodCall(call.service, call.path, call.interface, call.method);
         message.setArguments(call.arguments);
         const QDBusMessage reply = bus.call(message, QDBus::Block, kCallTimeoutMs);
         if (reply.type() != QDBusMessage::ReplyMessage) {
-            qWarning().noquote() << "D-Bus call" << call.method << "on" << call.path << "failed:" << reply.errorName()
-                                 << reply.errorMessage();
+            const bool absent = reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown")
+                || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.UnknownObject")
+                || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.UnknownMethod");
+            (absent ? qInfo() : qWarning()).noquote() << "D-Bus call" << call.method << "on" << call.path << "failed:"
+                                                      << reply.errorName() << reply.errorMessage();
             return std::nullopt;
         }
         QVariantList arguments = reply.arguments();

@@ -74,7 +74,6 @@ private slots:
         QCOMPARE(screen.getSubnetMask(), mask);
         QCOMPARE(screen.getGateway(), QStringLiteral("10.4.0.1"));
         QCOMPARE(QStringList({screen.getDNS1(), screen.getDNS2(), screen.getDNS3()}).join(' ').trimmed(), dns.join(' '));
-        QCOMPARE(screen.getEthernetIp(), QStringLiteral("10.4.0.20"));
 
         screen.setConnectionType(0);
         screen.setDNS("", "", "");
