@@ -91,7 +91,7 @@ PageScaffold {
     }
 
     function setValue(key, value) {
-        var copy = values;
+        var copy = Object.assign({}, values);
         copy[key] = value;
         values = copy;
     }

@@ -8,6 +8,7 @@ Prints "BUS <address>" once ready, then reads commands on stdin:
   dump   prints the settings and secrets of Settings/1 as one JSON line ("DUMP {...}")
   calls  prints the method names Settings/1 received, in order ("CALLS [...]")
   reset  forgets the calls received so far ("RESET")
+  refuse makes GetSettings of Settings/1 answer with an error ("REFUSING")
   remove takes Settings/1 off the bus ("REMOVED")
   quit   stops the bus and the mock
 """
@@ -133,6 +134,11 @@ def main():
         elif command == 'reset':
             control.NxReset()
             print('RESET', flush=True)
+        elif command == 'refuse':
+            control.AddMethod(CONNECTION_IFACE, 'GetSettings', '', 'a{sa{sv}}',
+                              "raise dbus.exceptions.DBusException('Not authorized', "
+                              "name='org.freedesktop.NetworkManager.PermissionDenied')")
+            print('REFUSING', flush=True)
         elif command == 'remove':
             dbus_mock.RemoveObject(DOT1X_PATH)
             print('REMOVED', flush=True)

@@ -266,6 +266,23 @@ private slots:
         QVERIFY(!ping.isRunning());
     }
 
+    // Next to last: the settings connection refuses to answer.
+    void refusingConnectionGivesAnEmptyState()
+    {
+        QCOMPARE(m_peer.command("refuse", "REFUSING"), QString());
+        QCOMPARE(m_peer.command("reset", "RESET"), QString());
+        NetworkManager manager;
+        manager.initDbus();
+        QCOMPARE(manager.getEAP(), QString());
+        manager.set8021xEnabled(true);
+        manager.setEap("md5");
+        manager.setProperty("identity", "x");
+        manager.apply8021x();
+        // Nothing read, nothing written over the profile.
+        QCOMPARE(m_peer.json("calls", "CALLS ").toArray(), QJsonArray());
+        QVERIFY(m_peer.json("dump", "DUMP ").toObject().value("settings").toObject().contains("connection"));
+    }
+
     // Last: the settings connection leaves the bus.
     void absentConnectionGivesAnEmptyState()
     {
