@@ -54,6 +54,7 @@ PageScaffold {
 
         FormField {
             id: hostField
+            objectName: "hostField"
             Layout.fillWidth: true
             Layout.maximumWidth: 440
             label: qsTr("Host")
@@ -64,6 +65,7 @@ PageScaffold {
 
         SegmentedControl {
             id: modeControl
+            objectName: "modeControl"
             model: [qsTr("Keep sending packages:"), qsTr("Send only:")]
             currentIndex: 0
             onActivated: currentIndex = index
@@ -76,6 +78,7 @@ PageScaffold {
 
             FormField {
                 id: countField
+                objectName: "countField"
                 Layout.fillWidth: true
                 enabled: modeControl.currentIndex === 1
                 label: qsTr("Number of packages")
@@ -85,6 +88,7 @@ PageScaffold {
             }
             FormField {
                 id: sizeField
+                objectName: "sizeField"
                 Layout.fillWidth: true
                 label: qsTr("Packet length (bytes)")
                 text: "64"

@@ -106,6 +106,8 @@ PageScaffold {
             for (var i = 0; i < list.length; ++i) {
                 var f = list[i];
                 var value = values[f.key] !== undefined ? values[f.key] : "";
+                if (f.kind === "menu" && f.values.indexOf(value) < 0)
+                    value = f.values[0]; // the item the menu shows
                 if (value === "")
                     continue; // only what the user filled in
                 if (f.kind === "cert") {
@@ -134,6 +136,7 @@ PageScaffold {
 
         SwitchRow {
             id: enabledRow
+            objectName: "enabledRow"
             Layout.fillWidth: true
             iconName: "shield"
             title: qsTr("802.1X authentication")

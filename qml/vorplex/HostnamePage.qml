@@ -42,6 +42,7 @@ PageScaffold {
 
         FormField {
             id: nameField
+            objectName: "nameField"
             Layout.fillWidth: true
             Layout.maximumWidth: 440
             label: qsTr("Computer name")

@@ -134,12 +134,12 @@ PageScaffold {
             columnSpacing: Theme.spacingL
             rowSpacing: Theme.spacingS
 
-            FormField { id: ipField; Layout.fillWidth: true; label: qsTr("Address"); placeholderText: "192.168.1.20"; onEdited: errorText = "" }
-            FormField { id: maskField; Layout.fillWidth: true; label: qsTr("Subnet mask"); placeholderText: "255.255.255.0"; onEdited: errorText = "" }
-            FormField { id: gatewayField; Layout.fillWidth: true; label: qsTr("Gateway"); placeholderText: "192.168.1.1"; onEdited: errorText = "" }
-            FormField { id: dns1Field; Layout.fillWidth: true; label: qsTr("DNS server 1"); onEdited: errorText = "" }
-            FormField { id: dns2Field; Layout.fillWidth: true; label: qsTr("DNS server 2"); onEdited: errorText = "" }
-            FormField { id: dns3Field; Layout.fillWidth: true; label: qsTr("DNS server 3"); onEdited: errorText = "" }
+            FormField { id: ipField; objectName: "ipField"; Layout.fillWidth: true; label: qsTr("Address"); placeholderText: "192.168.1.20"; onEdited: errorText = "" }
+            FormField { id: maskField; objectName: "maskField"; Layout.fillWidth: true; label: qsTr("Subnet mask"); placeholderText: "255.255.255.0"; onEdited: errorText = "" }
+            FormField { id: gatewayField; objectName: "gatewayField"; Layout.fillWidth: true; label: qsTr("Gateway"); placeholderText: "192.168.1.1"; onEdited: errorText = "" }
+            FormField { id: dns1Field; objectName: "dns1Field"; Layout.fillWidth: true; label: qsTr("DNS server 1"); onEdited: errorText = "" }
+            FormField { id: dns2Field; objectName: "dns2Field"; Layout.fillWidth: true; label: qsTr("DNS server 2"); onEdited: errorText = "" }
+            FormField { id: dns3Field; objectName: "dns3Field"; Layout.fillWidth: true; label: qsTr("DNS server 3"); onEdited: errorText = "" }
         }
 
         PrimaryButton {
