@@ -411,17 +411,14 @@ SimulatedTerminal::Answer ping(const QStringList& args)
     if (host.contains(QLatin1String("invalid")) || host.contains(QLatin1Char(' ')) || host.isEmpty())
         return output(QString(), 2, QStringLiteral("ping: %1: Name or service not known\n").arg(host));
     QString text = QStringLiteral("PING %1 (%2) %3(%4) bytes of data.\n").arg(host, ip).arg(size).arg(size + 28);
-    const int shown = count > 0 ? count : 1;
+    // A process here shows its output when it ends, so a ping without a count sends five packets.
+    const int shown = count > 0 ? count : 5;
     for (int i = 1; i <= shown; ++i)
         text += QStringLiteral("%1 bytes from %2: icmp_seq=%3 ttl=64 time=0.%4 ms\n").arg(size + 8).arg(ip).arg(i).arg(300 + 17 * i);
     SimulatedTerminal::Answer answer = output(QString());
-    if (count > 0) {
-        text += QStringLiteral("\n--- %1 ping statistics ---\n%2 packets transmitted, %2 received, 0% packet loss, time %3ms\n")
-                    .arg(host).arg(count).arg((count - 1) * 1000);
-        answer.delayMs = (count - 1) * 1000;
-    } else {
-        answer.delayMs = 24 * 3600 * 1000;
-    }
+    text += QStringLiteral("\n--- %1 ping statistics ---\n%2 packets transmitted, %2 received, 0% packet loss, time %3ms\n")
+                .arg(host).arg(shown).arg((shown - 1) * 1000);
+    answer.delayMs = (shown - 1) * 1000;
     answer.result.standardOutput = text.toUtf8();
     return answer;
 }

@@ -27,6 +27,8 @@ void PingManager::start(const QString& host, int count, int size)
 {
     qInfo().noquote() << "Count to ping " + QString::number(count);
     if (m_process && m_process->isRunning()) {
+        // The old run ends unheard: its end must not read as the end of the new one.
+        m_process->disconnect(this);
         m_process->kill();
         m_process->waitForFinished(1000);
     }

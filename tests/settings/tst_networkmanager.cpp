@@ -666,6 +666,22 @@ private slots:
         QCOMPARE(finished.count(), 1);
     }
 
+    void restartedPingReportsOnlyTheNewRun()
+    {
+        m_runner->answer("ping -s 64 old.example", "from the old run\n");
+        PingManager ping;
+        QSignalSpy data(&ping, &PingManager::newDataAvailable);
+        QSignalSpy finished(&ping, &PingManager::finished);
+        ping.start("old.example", -1, 64);
+        ping.start("new.example", -1, 64);
+        QCOMPARE(finished.count(), 0);
+        QCOMPARE(data.count(), 0);
+        QVERIFY(ping.isRunning());
+        ping.stop();
+        QCOMPARE(finished.count(), 1);
+        QCOMPARE(m_runner->commandLines().last(), (QStringList{"ping", "-s", "64", "new.example"}));
+    }
+
     void pingOutputIsHandedOn()
     {
         m_runner->answer("ping -s 64 -c2 127.0.0.1", "PING 127.0.0.1 (127.0.0.1) 64(92) bytes of data.\n");
