@@ -694,5 +694,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_NetworkManager)
+QTEST_GUILESS_MAIN(tst_NetworkManager)
 #include "tst_networkmanager.moc"
