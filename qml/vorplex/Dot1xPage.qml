@@ -176,7 +176,7 @@ PageScaffold {
                     Layout.fillWidth: true
                     Layout.preferredWidth: 1
                     Layout.columnSpan: modelData.kind === "cert" ? (page.columnWidth > 760 ? 2 : 1) : 1
-                    property var spec: modelData
+                    property var entry: modelData
                     sourceComponent: modelData.kind === "secret" ? secretField
                                    : modelData.kind === "cert" ? certField
                                    : modelData.kind === "menu" ? menuField : textField
@@ -194,36 +194,36 @@ PageScaffold {
     Component {
         id: textField
         FormField {
-            label: spec.label
-            text: page.values[spec.key] || ""
-            onEdited: page.setValue(spec.key, text)
+            label: entry.label
+            text: page.values[entry.key] || ""
+            onEdited: page.setValue(entry.key, text)
         }
     }
 
     Component {
         id: secretField
         PasswordField {
-            label: spec.label
-            text: page.values[spec.key] || ""
-            onEdited: page.setValue(spec.key, text)
+            label: entry.label
+            text: page.values[entry.key] || ""
+            onEdited: page.setValue(entry.key, text)
         }
     }
 
     Component {
         id: menuField
         FormComboBox {
-            label: spec.label
-            model: spec.labels
-            currentIndex: Math.max(0, spec.values.indexOf(page.values[spec.key] || ""))
-            onActivated: page.setValue(spec.key, spec.values[index])
+            label: entry.label
+            model: entry.labels
+            currentIndex: Math.max(0, entry.values.indexOf(page.values[entry.key] || ""))
+            onActivated: page.setValue(entry.key, entry.values[index])
         }
     }
 
     Component {
         id: certField
         FormField {
-            label: spec.label
-            text: page.values[spec.key] || ""
+            label: entry.label
+            text: page.values[entry.key] || ""
             readOnly: true
             placeholderText: qsTr("No file chosen")
 
@@ -231,15 +231,15 @@ PageScaffold {
                 iconName: "folder"
                 text: qsTr("Browse…")
                 onClicked: {
-                    var path = network.setCert(spec.key, spec.asArray);
+                    var path = network.setCert(entry.key, entry.asArray);
                     if (path !== "")
-                        page.setValue(spec.key, path);
+                        page.setValue(entry.key, path);
                 }
             }
             FlatButton {
                 text: qsTr("Clear")
-                visible: (page.values[spec.key] || "") !== ""
-                onClicked: page.setValue(spec.key, "")
+                visible: (page.values[entry.key] || "") !== ""
+                onClicked: page.setValue(entry.key, "")
             }
         }
     }
