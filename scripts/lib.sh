@@ -14,6 +14,7 @@ NORBIX_PACKAGES=(
     freerdp2-x11 freerdp2-shadow-x11 winpr-utils x11vnc
     python3 python3-websockets
     xserver-xorg-core xserver-xorg-video-dummy xautolock psmisc procps tzdata
+    network-manager python3-dbusmock iputils-ping iw
 )
 
 # The peers and tools scripts/bench compares the VNC viewer with.

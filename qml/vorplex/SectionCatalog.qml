@@ -10,14 +10,18 @@ QtObject {
             sections: [
                 { id: "connections", title: qsTr("Connections"), icon: "plug", admin: true, page: "ConnectionsPage.qml",
                   description: qsTr("Remote sessions that appear as tiles on the home screen.") },
-                { id: "network-wired", title: qsTr("Wired network"), icon: "network", admin: true, page: "",
-                  description: qsTr("Ethernet addressing, DNS and proxy.") },
-                { id: "network-wifi", title: qsTr("Wi-Fi"), icon: "wifi", admin: true, page: "",
+                { id: "network-wired", title: qsTr("Wired network"), icon: "network", admin: true, page: "WiredNetworkPage.qml",
+                  description: qsTr("Ethernet addressing and DNS servers.") },
+                { id: "network-wifi", title: qsTr("Wi-Fi"), icon: "wifi", admin: true, page: "WifiPage.qml",
                   description: qsTr("Wireless networks and saved credentials.") },
-                { id: "network-8021x", title: qsTr("802.1X authentication"), icon: "shield", admin: true, page: "",
+                { id: "network-8021x", title: qsTr("802.1X authentication"), icon: "shield", admin: true, page: "Dot1xPage.qml",
                   description: qsTr("Port-based network access control for wired and wireless networks.") },
-                { id: "hostname", title: qsTr("Host name"), icon: "badge", admin: true, page: "",
-                  description: qsTr("The name this terminal uses on the network.") }
+                { id: "hostname", title: qsTr("Host name"), icon: "badge", admin: true, page: "HostnamePage.qml",
+                  description: qsTr("The name this terminal uses on the network.") },
+                { id: "network-diagnosis", title: qsTr("Network diagnosis"), icon: "terminal", admin: true, page: "DiagnosisPage.qml",
+                  description: qsTr("Check that a host answers over the network.") },
+                { id: "wifi-networks", title: qsTr("Wi-Fi networks"), icon: "wifi", admin: false, page: "WifiUserPage.qml",
+                  description: qsTr("Join a wireless network approved by your administrator.") }
             ]
         },
         {

@@ -7,6 +7,7 @@
 #include "ConnectionWire.h"
 #include "HardwareUtils.h"
 #include "HeartbeatWorker.h"
+#include "NetworkParsers.h"
 #include "QmlSingleton.h"
 #include "SystemLoad.h"
 #include "SystemPaths.h"
@@ -208,13 +209,19 @@ void APIManager::setId(QString string)
 {
     if (string.isEmpty())
         string = createId();
+    // The name ends up in /etc/hosts and /etc/hostname: refuse anything that is not one host name label.
+    if (!NetworkParsers::isValidHostName(string)) {
+        qWarning().noquote() << "Computer name refused, not a host name: " + string;
+        return;
+    }
     config().setValue(kId, string);
-    runSudo({QStringLiteral("hostname"), string});
+    const CommandResult hostname = CommandRunner::instance().run(QStringLiteral("sudo"), {QStringLiteral("hostname"), string});
     AtomicFile::write(SystemPaths::dataFile(QStringLiteral("hosts")), hostsFileContent(string));
     runSudo({QStringLiteral("cp"), QStringLiteral("-f"), QStringLiteral("/data/norbix/hosts"), QStringLiteral("/etc/hosts")});
     AtomicFile::write(SystemPaths::dataFile(QStringLiteral("hostname")), string.toUtf8());
     runSudo({QStringLiteral("cp"), QStringLiteral("-f"), QStringLiteral("/data/norbix/hostname"), QStringLiteral("/etc/hostname")});
-    qInfo().noquote() << "Set computer ID " + string;
+    qInfo().noquote() << "Set computer ID " + string << QString::fromUtf8(hostname.standardError).trimmed()
+                      << QString::fromUtf8(hostname.standardOutput).trimmed();
 }
 
 // --- session ----------------------------------------------------------------------------------

@@ -10,7 +10,9 @@
 #include "LanguageBackend.h"
 #include "LocalUpdaterBackend.h"
 #include "LogManager.h"
+#include "NetworkManager.h"
 #include "PasswordManager.h"
+#include "PingManager.h"
 #include "PrintersBackend.h"
 #include "PuttyConnectDialogBackend.h"
 #include "RDPConnectDialogBackend.h"
@@ -56,6 +58,8 @@ void registerQmlTypes()
     qmlRegisterSingletonType<Updater>("com.Updater", 1, 0, "Updater", &Updater::qmlInstance);
     qmlRegisterSingletonType<APIManager>("com.APIManager", 1, 0, "APIManager", &APIManager::qmlInstance);
     qmlRegisterSingletonType<CitrixConnector>("com.CitrixConnector", 1, 0, "CitrixConnector", &CitrixConnector::qmlInstance);
+    qmlRegisterType<NetworkManager>("com.NetworkManager", 1, 0, "NetworkManager");
+    qmlRegisterType<PingManager>("com.PingManager", 1, 0, "PingManager");
     qmlRegisterType<RemoteAssistanceBackend>("com.RemoteAssistanceBackend", 1, 0, "RemoteAssistanceBackend");
 }
 
@@ -65,6 +69,12 @@ void ContextObjects::publish(QQmlContext* context)
     context->setContextProperty(QStringLiteral("connectionTableModel"), &connectionTableModel);
     qDebug() << "prepare connectionsModel";
     context->setContextProperty(QStringLiteral("connectionsModel"), &connectionsModel);
+    qDebug() << "prepare wifiAvailableModel";
+    context->setContextProperty(QStringLiteral("wifiAvailableModel"), &wifiAvailableModel);
+    qDebug() << "prepare wifiSavedModel";
+    context->setContextProperty(QStringLiteral("wifiSavedModel"), &wifiSavedModel);
+    qDebug() << "prepare wifiUserAvailable";
+    context->setContextProperty(QStringLiteral("wifiUserAvailable"), &wifiUserAvailable);
     context->setContextProperty(QStringLiteral("clipboard"), &clipboard);
     context->setContextProperty(QStringLiteral("hardwareUtils"), &hardwareUtils);
     context->setContextProperty(QStringLiteral("cryptoUtils"), &cryptoUtils);

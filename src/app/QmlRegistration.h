@@ -7,6 +7,9 @@
 #include "CryptoUtils.h"
 #include "HardwareUtils.h"
 #include "ScreenListModel.h"
+#include "UserAvailableWifiModel.h"
+#include "WiFiAvailableConnectionsModel.h"
+#include "WiFiSavedConnectionsModel.h"
 
 class QQmlContext;
 
@@ -17,6 +20,9 @@ void registerQmlTypes();
 struct ContextObjects {
     ConnectionTableModel connectionTableModel;
     ConnectionsModel connectionsModel;
+    WiFiAvailableConnectionsModel wifiAvailableModel;
+    WiFiSavedConnectionsModel wifiSavedModel;
+    UserAvailableWifiModel wifiUserAvailable;
     ClipboardProxy clipboard;
     HardwareUtils hardwareUtils;
     CryptoUtils cryptoUtils;

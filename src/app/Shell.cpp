@@ -9,6 +9,7 @@
 #include "HardwareUtils.h"
 #include "LanguageBackend.h"
 #include "Logging.h"
+#include "NetworkManager.h"
 #include "QmlRegistration.h"
 #include "RawImageProvider.h"
 #include "RenderingSetup.h"
@@ -132,6 +133,10 @@ int runShell(int argc, char* argv[])
     contextObjects.publish(engine.rootContext());
     // The saved display arrangement is put back on every start.
     ScreensBackend::getInstance()->loadInitial();
+
+    // Network start-up: the stored Wi-Fi network marked for auto-connect is brought up.
+    NetworkManager networkManager;
+    networkManager.autoConnect();
 
     const QString identity = HardwareUtils::deviceIdentity(HardwareUtils::inventory());
     const QString kernel = kernelDescription();

@@ -2,6 +2,7 @@
 
 #include "SimulatedCertificates.h"
 #include "SimulatedDisplays.h"
+#include "SimulatedNetwork.h"
 #include "SimulatedTime.h"
 #include "SystemPaths.h"
 
@@ -219,6 +220,8 @@ SimulatedTerminal::Answer SimulatedTerminal::answer(const QString& program, cons
     if (auto answer = SimulatedDisplays::answer(program, arguments))
         return *answer;
     if (auto answer = SimulatedTime::answer(program, arguments))
+        return *answer;
+    if (auto answer = SimulatedNetwork::answer(program, arguments))
         return *answer;
     if (auto answer = fromTable(program, arguments))
         return *answer;

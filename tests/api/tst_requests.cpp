@@ -418,6 +418,38 @@ private slots:
         QCOMPARE(m_runner.commandLines().first(), (QStringList{"nmcli", "device", "show"}));
     }
 
+    void setIdRefusesWhatIsNotAHostName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("blank inside") << "front desk";
+        QTest::newRow("shell characters") << "pc;reboot";
+        QTest::newRow("command substitution") << "$(id)";
+        QTest::newRow("leading hyphen") << "-front";
+        QTest::newRow("trailing hyphen") << "front-";
+        QTest::newRow("dotted") << "front.desk";
+        QTest::newRow("non-ASCII") << QString::fromUtf8("empf\xc3\xa4nger");
+        QTest::newRow("line feed") << "front\nevil";
+        QTest::newRow("64 characters") << QString(64, QLatin1Char('a'));
+    }
+
+    void setIdRefusesWhatIsNotAHostName()
+    {
+        QFETCH(QString, name);
+        api()->setId("front-desk-2");
+        m_runner.calls.clear();
+        api()->setId(name);
+        QVERIFY(m_runner.commandLines().isEmpty());
+        QCOMPARE(TestSandbox::readFile(m_sandbox->dataFile("hostname")), QByteArray("front-desk-2"));
+        QCOMPARE(api()->getId(), QStringLiteral("front-desk-2"));
+    }
+
+    void setIdTakesTheLongestLabel()
+    {
+        const QString name(63, QLatin1Char('b'));
+        api()->setId(name);
+        QCOMPARE(TestSandbox::readFile(m_sandbox->dataFile("hostname")), name.toUtf8());
+    }
+
     void vncPasswordCommands()
     {
         api()->setVNCPassword("pa ss");
