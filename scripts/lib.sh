@@ -13,6 +13,8 @@ NORBIX_PACKAGES=(
     xvfb xauth x11-xserver-utils
     freerdp2-x11 freerdp2-shadow-x11 winpr-utils x11vnc
     python3 python3-websockets
+    x11-xkb-utils xkb-data xinput openbox feh libx11-dev usbutils
+    pulseaudio pulseaudio-utils alsa-utils libasound2-plugins cups cups-daemon cups-client cups-ipp-utils dbus
 )
 
 # The peers and tools scripts/bench compares the VNC viewer with.

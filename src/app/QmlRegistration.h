@@ -6,6 +6,7 @@
 #include "ConnectionsModel.h"
 #include "CryptoUtils.h"
 #include "HardwareUtils.h"
+#include "KeyboardsLayoutModel.h"
 
 class QQmlContext;
 
@@ -16,6 +17,7 @@ void registerQmlTypes();
 struct ContextObjects {
     ConnectionTableModel connectionTableModel;
     ConnectionsModel connectionsModel;
+    KeyboardsLayoutModel keyboardLayoutModel;
     ClipboardProxy clipboard;
     HardwareUtils hardwareUtils;
     CryptoUtils cryptoUtils;

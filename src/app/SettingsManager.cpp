@@ -3,6 +3,8 @@
 #include "APIManager.h"
 #include "AtomicFile.h"
 #include "ConnectionManager.h"
+#include "LanguageBackend.h"
+#include "MouseSettingsBackend.h"
 #include "SettingsChange.h"
 #include "SystemPaths.h"
 
@@ -41,7 +43,16 @@ void reloadAfterImport(const QString& key)
 {
     if (key == QLatin1String("connections"))
         ConnectionManager::getInstance()->reload();
-    else if (key == QLatin1String("apiSettings"))
+    else if (key == QLatin1String("keyboardAndMouse")) {
+        // The file names another terminal's pointer ids: find this terminal's before applying.
+        MouseSettingsBackend mouse;
+        MouseSettingsBackend::initLayouts();
+        mouse.getMouseNames();
+        mouse.applyStartSettings();
+    } else if (key == QLatin1String("languageSettings")) {
+        LanguageBackend* language = LanguageBackend::getInstance();
+        language->setCurrentLanguage(language->getCurrentLanguage());
+    } else if (key == QLatin1String("apiSettings"))
         APIManager::getInstance()->setId(QString()); // never another terminal's name: this one makes its own
 }
 

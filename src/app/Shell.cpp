@@ -9,6 +9,7 @@
 #include "HardwareUtils.h"
 #include "LanguageBackend.h"
 #include "Logging.h"
+#include "MouseSettingsBackend.h"
 #include "QmlRegistration.h"
 #include "RawImageProvider.h"
 #include "RenderingSetup.h"
@@ -125,6 +126,12 @@ int runShell(int argc, char* argv[])
 
     ContextObjects contextObjects;
     contextObjects.publish(engine.rootContext());
+
+    MouseSettingsBackend mouseSettings;
+    MouseSettingsBackend::initLayouts();
+    mouseSettings.startTimer();
+    mouseSettings.getMouseNames();
+    mouseSettings.applyStartSettings();
 
     const QString identity = HardwareUtils::deviceIdentity(HardwareUtils::inventory());
     const QString kernel = kernelDescription();

@@ -1,6 +1,7 @@
 #include "SimulatedTerminal.h"
 
 #include "SimulatedCertificates.h"
+#include "SimulatedDevices.h"
 #include "SystemPaths.h"
 
 #include <QDir>
@@ -213,6 +214,8 @@ SimulatedTerminal::Answer SimulatedTerminal::answer(const QString& program, cons
     if (auto answer = portScan(program, arguments))
         return *answer;
     if (auto answer = SimulatedCertificates::answer(program, arguments))
+        return *answer;
+    if (auto answer = SimulatedDevices::answer(program, arguments))
         return *answer;
     if (auto answer = fromTable(program, arguments))
         return *answer;
