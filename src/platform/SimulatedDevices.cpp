@@ -235,6 +235,21 @@ std::optional<SimulatedTerminal::Answer> usbScript(const QString& script)
 
 } // namespace
 
+void SimulatedDevices::seedSandbox()
+{
+    const QString pictures = SystemPaths::resolve(QStringLiteral("/media/NORBIX-USB/pictures"));
+    QDir().mkpath(pictures);
+    for (const QString& name : {QStringLiteral("wallpaper-sunset.png"), QStringLiteral("wallpaper-forest.png")}) {
+        const QString target = pictures + QLatin1Char('/') + name.mid(10);
+        if (!QFile::exists(target))
+            QFile::copy(QStringLiteral(":/simulation/") + name, target);
+        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    }
+    const QString rules = SystemPaths::resolve(QStringLiteral("/lib/udev/rules.d"));
+    if (!QFileInfo::exists(rules))
+        usbScript(QStringLiteral("/opt/norbix/tools/usb/usb_enable.sh"));
+}
+
 void SimulatedDevices::reset()
 {
     QMutexLocker locker(&g_mutex);

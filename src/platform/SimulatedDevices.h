@@ -9,6 +9,9 @@ namespace SimulatedDevices {
 
 std::optional<SimulatedTerminal::Answer> answer(const QString& program, const QStringList& arguments);
 
+// Pictures on the demo drive and USB storage switched on, as a terminal image ships.
+void seedSandbox();
+
 // Back to the terminal as it left the factory (tests).
 void reset();
 

@@ -187,6 +187,7 @@ void SimulatedTerminal::prepareSandbox()
     for (const char* dir : {"/opt/norbix/tools", "/media/NORBIX-USB", "/usr/local/share/ca-certificates", "/etc"})
         QDir().mkpath(SystemPaths::resolve(QLatin1String(dir)));
     SimulatedCertificates::seedSandbox();
+    SimulatedDevices::seedSandbox();
 }
 
 void SimulatedTerminal::addHandler(const Handler& handler)
