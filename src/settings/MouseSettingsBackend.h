@@ -17,6 +17,8 @@ public:
 
     // Finds the pointers that take an acceleration and stores their names and ids.
     Q_INVOKABLE void getMouseNames();
+    // Whether getMouseNames() found a pointer whose speed can be set.
+    Q_INVOKABLE bool hasPointers() const { return !ids().isEmpty(); }
     Q_INVOKABLE float getMouseSensetivity();
     Q_INVOKABLE void setMouseSensetivity(float value);
     Q_INVOKABLE int getDoubleClickSpeed();
@@ -43,7 +45,7 @@ public:
     // Runs setxkbmap with these codes (in this order) and reconfigures the window manager.
     static bool applyLayouts(const QStringList& codes);
     // The display name of a layout code, the code itself when the catalogue does not know it.
-    static QString layoutDisplayName(const QString& code);
+    Q_INVOKABLE static QString layoutDisplayName(const QString& code);
 
     int attempts() const { return setAttempts; }
     bool layoutSet() const { return m_layoutSet; }

@@ -45,6 +45,12 @@ QString localPath(const QString& path)
 
 } // namespace
 
+WallpapersManager::WallpapersManager(QObject* parent)
+    : QObject(parent)
+{
+    initWallpaperResources(); // the built-in background the screen shows
+}
+
 QString WallpapersManager::imageKind(const QByteArray& head)
 {
     if (head.startsWith("\x89PNG\r\n\x1a\n"))

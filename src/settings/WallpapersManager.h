@@ -9,7 +9,7 @@
 class WallpapersManager : public QObject {
     Q_OBJECT
 public:
-    using QObject::QObject;
+    explicit WallpapersManager(QObject* parent = nullptr);
 
     // The stored image as a file URL, empty when none was chosen.
     Q_INVOKABLE static QString getWallpaper();
