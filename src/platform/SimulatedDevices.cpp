@@ -207,10 +207,14 @@ std::optional<SimulatedTerminal::Answer> lpadmin(const QStringList& a)
     const int p = a.indexOf(QStringLiteral("-p"));
     const int v = a.indexOf(QStringLiteral("-v"));
     if (p >= 0 && v >= 0 && p + 1 < a.size() && v + 1 < a.size()) {
-        const QString uri = a.at(v + 1);
-        if (uri.startsWith(QLatin1String("ipp://")) && uri.contains(QLatin1String("unreachable")))
-            return result(1, {}, "lpadmin: Unable to query printer: Name or service not known\n");
-        m.printers.insert(a.at(p + 1), uri);
+        // The scheduler knows the drivers lpinfo lists; CUPS adds a queue for any address.
+        const QString driver = a.value(a.indexOf(QStringLiteral("-m")) + 1);
+        bool known = false;
+        for (const QByteArray& line : fixture(QStringLiteral("lpinfo-m.txt")).split('\n'))
+            known |= !driver.isEmpty() && line.startsWith(driver.toUtf8() + ' ');
+        if (!known)
+            return result(1, {}, "lpadmin: cups-driverd failed to get PPD file - see error_log for details.\n");
+        m.printers.insert(a.at(p + 1), a.at(v + 1));
         return result();
     }
     return std::nullopt;

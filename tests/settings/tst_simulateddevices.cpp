@@ -98,8 +98,8 @@ private slots:
         printers.deletePrinter("Lab");
         QCOMPARE(PrintersBackend::listPrinters(), (QStringList{"HP", "Office"}));
         QCOMPARE(PrintersBackend::getDefaultPrinter(), QString());
-        QVERIFY(!printers.addPrinter("Lab", "unreachable.example"));
-        QVERIFY(printers.lastError().contains("Unable to query printer"));
+        QVERIFY(!printers.addUSBPrinter("Lab", "usb://HP/x", "drv:///none.drv/x.ppd"));
+        QVERIFY(printers.lastError().contains("failed to get PPD file"));
     }
 
     void usb()
