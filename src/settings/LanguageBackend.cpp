@@ -142,7 +142,7 @@ bool LanguageBackend::updateLanguage(int index)
     const QString code = languageCode(index);
     if (code.isEmpty())
         return false;
-    qInfo() << "Changing language to " << code;
+    qInfo().nospace().noquote() << "Changing language to " << code;
     const QString fileName = QStringLiteral("norbix_") + code + QStringLiteral(".qm");
     QString directory;
     for (const QString& candidate : translationDirectories()) {
@@ -153,7 +153,7 @@ bool LanguageBackend::updateLanguage(int index)
             break;
         }
     }
-    qInfo() << "Load " << fileName;
+    qInfo().nospace().noquote() << "Load " << fileName;
     if (directory.isNull()) {
         qWarning() << "COULD NOT INSTALL TRANSLATION" << fileName;
         emit languageFailed(code);
@@ -210,7 +210,7 @@ void LanguageBackend::removeLanguage(int index)
         qWarning() << "No keyboard layout at" << index;
         return;
     }
-    qInfo() << "Removing layout " << enabled.at(index);
+    qInfo().nospace().noquote() << "Removing layout " << enabled.at(index);
     QSettings settings(SystemPaths::dataFile(QStringLiteral("keyboard.ini")), QSettings::IniFormat);
     const InputParsers::LayoutRemoval after = InputParsers::removeLayout(
         enabled, index, settings.value(QStringLiteral("PreferredLayout")).toString(),

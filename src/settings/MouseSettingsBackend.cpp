@@ -92,7 +92,7 @@ QStringList MouseSettingsBackend::ids() const
 float MouseSettingsBackend::getMouseSensetivity()
 {
     const QStringList pointers = ids();
-    qInfo() << "Checking mouse " << pointers.value(0);
+    qInfo().nospace().noquote() << "Checking mouse " << pointers.value(0);
     if (pointers.isEmpty())
         return 0;
     const CommandResult props = xinput({QStringLiteral("--list-props"), pointers.first()});
@@ -111,7 +111,7 @@ void MouseSettingsBackend::setMouseSensetivity(float value)
         qWarning() << "Refusing pointer speed outside -1..1:" << value;
         return;
     }
-    qInfo() << "Set mouse sensetivity to " << value;
+    qInfo().nospace().noquote() << "Set mouse sensetivity to " << value;
     for (const QString& id : ids()) {
         const CommandResult result = xinput({QStringLiteral("--set-prop"), id, QStringLiteral("libinput Accel Speed"),
                                              QString::number(*speed)});
@@ -142,7 +142,7 @@ void MouseSettingsBackend::setDoubleClickSpeed(int milliseconds)
     bash(QStringLiteral("sudo sed -i -e 's|<doubleClickTime>[0-9]\\{1,\\}</doubleClickTime>|<doubleClickTime>")
          + QString::number(milliseconds) + QStringLiteral("</doubleClickTime>|g' ") + kRcXml);
     reconfigureWindowManager();
-    qInfo() << "Set mouse double click speed to " << milliseconds;
+    qInfo().nospace().noquote() << "Set mouse double click speed to " << milliseconds;
     SettingsChange::report();
 }
 
@@ -161,7 +161,7 @@ void MouseSettingsBackend::setPrimaryButton(int button)
         qWarning() << "Refusing primary button" << button;
         return;
     }
-    qInfo() << "Set primary button to " << button;
+    qInfo().nospace().noquote() << "Set primary button to " << button;
     const QStringList map = button == 1
         ? QStringList{QStringLiteral("3"), QStringLiteral("2"), QStringLiteral("1")}
         : QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")};
@@ -200,10 +200,10 @@ bool MouseSettingsBackend::applyLayouts(const QStringList& codes)
 bool MouseSettingsBackend::initLayouts()
 {
     const QStringList ordered = InputParsers::orderLayouts(listLayoutsEnabled(), getPreferredLayoutRaw());
-    qInfo() << "init layouts to " << ordered.join(QLatin1Char(','));
+    qInfo().nospace().noquote() << "init layouts to " << ordered.join(QLatin1Char(','));
     const bool applied = applyLayouts(ordered);
     const QString current = getKeyboardLayout();
-    qInfo() << "Current locale " << current;
+    qInfo().nospace().noquote() << "Current locale " << current;
     if (current != QLatin1String("Unknown"))
         store(QStringLiteral("CurrentLayout"), current);
     return applied;
@@ -249,7 +249,7 @@ void MouseSettingsBackend::setPreferredLayoutRaw(const QString& code)
         qWarning() << "Refusing preferred layout" << code;
         return;
     }
-    qInfo() << "Set preferred layout to " << code;
+    qInfo().nospace().noquote() << "Set preferred layout to " << code;
     store(QStringLiteral("PreferredLayout"), code);
 }
 

@@ -27,7 +27,7 @@ bool PrintersBackend::isPrinterEnabled()
 
 void PrintersBackend::setPrinterEnabled(bool enabled)
 {
-    qInfo() << "Set printer enabled " << enabled;
+    qInfo().nospace().noquote() << "Set printer enabled " << enabled;
     QSettings(SystemPaths::dataFile(QStringLiteral("printers.ini")), QSettings::IniFormat)
         .setValue(QStringLiteral("Enabled"), enabled);
     SettingsChange::report();
@@ -63,10 +63,10 @@ QString PrintersBackend::printerHostProblem(const QString& host)
 
 bool PrintersBackend::runLpadmin(const QStringList& arguments)
 {
-    qInfo() << "Adding printer " << arguments;
+    qInfo().nospace().noquote() << "Adding printer " << arguments.join(QLatin1Char(' '));
     const CommandResult result = sudo(QStringList{QStringLiteral("lpadmin")} + arguments);
-    qInfo() << "Adding printer result: " << result.standardOutput;
-    qInfo() << "Adding printer error: " << result.standardError;
+    qInfo().nospace().noquote() << "Adding printer result: " << QString::fromLocal8Bit(result.standardOutput).trimmed();
+    qInfo().nospace().noquote() << "Adding printer error: " << QString::fromLocal8Bit(result.standardError).trimmed();
     if (!result.started || result.exitCode != 0) {
         const QString error = QString::fromLocal8Bit(result.standardError).trimmed();
         m_lastError = error.isEmpty() ? tr("The printer could not be added.") : error;
@@ -122,7 +122,7 @@ void PrintersBackend::setCurrentPrinter(const QString& name)
         return;
     }
     sudo({QStringLiteral("lpadmin"), QStringLiteral("-d"), name});
-    qInfo() << "Set printer " << name;
+    qInfo().nospace().noquote() << "Set printer " << name;
     emit printersChanged();
     SettingsChange::report();
 }

@@ -42,7 +42,7 @@ void SoundSettingsBackend::setSoundVolume(int percent)
 {
     percent = qBound(0, percent, 100);
     bash(QStringLiteral("amixer -D pulse sset Master %1%").arg(percent));
-    qInfo() << "Set sound volume to " << percent;
+    qInfo().nospace().noquote() << "Set sound volume to " << percent;
     SettingsChange::report();
 }
 
@@ -56,7 +56,7 @@ void SoundSettingsBackend::setMicrophoneVolume(int percent)
 {
     percent = qBound(0, percent, 100);
     bash(QStringLiteral("amixer -D pulse sset Capture %1%").arg(percent));
-    qInfo() << "Set microphone volume to " << percent;
+    qInfo().nospace().noquote() << "Set microphone volume to " << percent;
     SettingsChange::report();
 }
 
@@ -72,7 +72,7 @@ int SoundSettingsBackend::getActiveSink()
 
 void SoundSettingsBackend::setActiveSink(int index)
 {
-    qInfo() << "Set active sink to " << index;
+    qInfo().nospace().noquote() << "Set active sink to " << index;
     const QStringList names = SoundParsers::parseLines(
         bash(QStringLiteral("pactl list sinks short | awk '{print $2 }'")).standardOutput);
     if (index < 0 || index >= names.size()) {
@@ -90,7 +90,7 @@ void SoundSettingsBackend::setActiveSink(int index)
 
 void SoundSettingsBackend::setSoundEnabled(bool enabled)
 {
-    qInfo() << "Set sound muted " << enabled;
+    qInfo().nospace().noquote() << "Set sound muted " << enabled;
 }
 
 void SoundSettingsBackend::testSound()

@@ -15,7 +15,7 @@ bool USBManager::isUsbEnabled()
 
 void USBManager::setUsbEnabled(bool enabled)
 {
-    qInfo() << "Set USB enabled " << enabled;
+    qInfo().nospace().noquote() << "Set USB enabled " << enabled;
     const QString script = enabled ? QStringLiteral("/opt/norbix/tools/usb/usb_enable.sh")
                                    : QStringLiteral("/opt/norbix/tools/usb/usb_disable.sh");
     const CommandResult result = CommandRunner::instance().run(QStringLiteral("sudo"), {script});

@@ -70,7 +70,7 @@ QString WallpapersManager::getWallpaper()
 
 bool WallpapersManager::setWallpaper(const QString& path)
 {
-    qInfo() << "Set wallpaper " << path;
+    qInfo().nospace().noquote() << "Set wallpaper " << path;
     m_lastError.clear();
     const QString source = localPath(path);
     QFile file(source);
@@ -106,7 +106,7 @@ bool WallpapersManager::isWallpaperActive()
 
 void WallpapersManager::setWallpaperActive(bool active)
 {
-    qInfo() << "Set wallpaper active " << active;
+    qInfo().nospace().noquote() << "Set wallpaper active " << active;
     QSettings settings(displayIni(), QSettings::IniFormat);
     settings.setValue(QStringLiteral("WallpaperActive"), active);
     const QString stored = settings.value(QStringLiteral("Wallpaper")).toString();
