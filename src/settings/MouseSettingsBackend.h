@@ -48,6 +48,7 @@ public:
     Q_INVOKABLE static QString layoutDisplayName(const QString& code);
 
     int attempts() const { return setAttempts; }
+    void setRetryInterval(int milliseconds) { m_timer.setInterval(milliseconds); }
     bool layoutSet() const { return m_layoutSet; }
 
 signals:

@@ -369,6 +369,67 @@ private slots:
         QCOMPARE(readKeyboard(sandbox, QStringLiteral("CurrentLayout")).toString(), QStringLiteral("us"));
     }
 
+    // While X is not ready the layouts are tried again, a bounded number of times.
+    void layoutRetry()
+    {
+        TestSandbox sandbox;
+        FakeCommandRunner runner;
+        writeKeyboard(sandbox, {{"Layouts", "us,de"}});
+        const QString setxkbmap = bash("setxkbmap -layout us,de -option grp:alt_shift_toggle").join(' ');
+        runner.answer(setxkbmap, {}, 1, "Cannot open display \"default display\"\n");
+        auto layoutCalls = [&runner, &setxkbmap] {
+            int count = 0;
+            for (const QStringList& call : runner.commandLines())
+                count += call.join(' ') == setxkbmap;
+            return count;
+        };
+
+        MouseSettingsBackend never;
+        never.setRetryInterval(1);
+        never.startTimer();
+        QTRY_COMPARE(never.attempts(), MouseSettingsBackend::kMaxAttempts);
+        QTest::qWait(30);
+        QCOMPARE(never.attempts(), MouseSettingsBackend::kMaxAttempts);
+        QCOMPARE(layoutCalls(), MouseSettingsBackend::kMaxAttempts);
+        QVERIFY(!never.layoutSet());
+
+        runner.calls.clear();
+        MouseSettingsBackend later;
+        later.setRetryInterval(1);
+        later.startTimer();
+        QTRY_VERIFY(later.attempts() >= 2);
+        runner.answer(setxkbmap, {}); // the X session is up
+        QTRY_VERIFY(later.layoutSet());
+        const int attempts = later.attempts();
+        QTest::qWait(30);
+        QCOMPARE(later.attempts(), attempts);
+        QCOMPARE(layoutCalls(), attempts);
+    }
+
+    // A missing evdev.lst leaves an empty catalogue that is known to be read.
+    void missingCatalogue()
+    {
+        FakeCommandRunner runner;
+        runner.answer(QStringLiteral("cat /usr/share/X11/xkb/rules/evdev.lst"), {}, 1,
+                      "cat: /usr/share/X11/xkb/rules/evdev.lst: No such file or directory\n");
+        LanguageBackend* language = LanguageBackend::getInstance();
+        QSignalSpy ready(language, &LanguageBackend::layoutsReady);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("No keyboard layouts in evdev.lst")));
+        language->asyncRead();
+        QVERIFY(ready.wait(10000));
+        QVERIFY(language->isLayoutCatalogueReady());
+        QVERIFY(language->listLocalesInternal().isEmpty());
+        KeyboardsLayoutModel model;
+        QVERIFY(!model.isLoading());
+        QCOMPARE(model.rowCount(), 0);
+
+        runner.answer(QStringLiteral("cat /usr/share/X11/xkb/rules/evdev.lst"), fixture(QStringLiteral("evdev.lst")));
+        language->asyncRead();
+        QVERIFY(ready.wait(10000));
+        QVERIFY(model.rowCount() > 50);
+        QCOMPARE(language->listLocalesInternal().value(0), QStringLiteral("us"));
+    }
+
     void startSettings_data()
     {
         QTest::addColumn<QVariant>("sensitivity");
