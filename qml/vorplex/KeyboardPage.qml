@@ -133,6 +133,7 @@ PageScaffold {
 
     AddLayoutDialog {
         id: addDialog
+        objectName: "addLayoutDialog"
         onApplied: page.load()
     }
 }

@@ -40,6 +40,7 @@ PageScaffold {
 
     ModalDialog {
         id: shutdownDialog
+        objectName: "shutdownDialog"
         title: qsTr("Shut down")
         message: qsTr("Shut the terminal down now? Open sessions end and unsaved work in them is lost.")
         okText: qsTr("Shut down")
@@ -49,6 +50,7 @@ PageScaffold {
 
     ModalDialog {
         id: rebootDialog
+        objectName: "rebootDialog"
         title: qsTr("Restart")
         message: qsTr("Restart the terminal now? Open sessions end and unsaved work in them is lost.")
         okText: qsTr("Restart")

@@ -156,6 +156,7 @@ PageScaffold {
 
         FormField {
             id: nameField
+            objectName: "nameField"
             Layout.fillWidth: true
             Layout.maximumWidth: 440
             label: qsTr("Printer name")
@@ -165,6 +166,7 @@ PageScaffold {
         }
         FormField {
             id: hostField
+            objectName: "hostField"
             Layout.fillWidth: true
             Layout.maximumWidth: 440
             label: qsTr("Host name or address")

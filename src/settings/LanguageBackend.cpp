@@ -154,15 +154,22 @@ bool LanguageBackend::updateLanguage(int index)
         }
     }
     qInfo().nospace().noquote() << "Load " << fileName;
-    if (directory.isNull()) {
+    // The screens are written in English: without an English file the source texts are shown.
+    const bool sourceLanguage = code == QLatin1String("en");
+    if (directory.isNull() && !sourceLanguage) {
         qWarning() << "COULD NOT INSTALL TRANSLATION" << fileName;
         emit languageFailed(code);
         return false;
     }
     QCoreApplication::removeTranslator(&m_translator);
     QCoreApplication::removeTranslator(&m_qtTranslator);
-    m_translator.load(fileName, directory);
-    QCoreApplication::installTranslator(&m_translator);
+    if (directory.isNull()) {
+        m_translator.load(QString()); // empties it
+        qInfo() << "No" << fileName << "- showing the source texts";
+    } else {
+        m_translator.load(fileName, directory);
+        QCoreApplication::installTranslator(&m_translator);
+    }
     // Qt's own texts (dialog buttons and the like) follow when Qt ships that language.
     if (m_qtTranslator.load(QStringLiteral("qtbase_") + code, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qtTranslator);

@@ -580,6 +580,12 @@ private slots:
         QVERIFY(!language->translator()->isEmpty());
         QCOMPARE(language->translator()->language(), translated);
 
+        // English is what the screens are written in: it needs no file to go back to.
+        QVERIFY(screenObject.updateLanguage(0));
+        QCOMPARE(language->getCurrentLanguage(), QStringLiteral("en"));
+        QVERIFY(language->translator()->isEmpty());
+        QVERIFY(screenObject.updateLanguage(2));
+
         QVERIFY(!language->updateLanguage(9)); // not in the menu: nothing happens
         QCOMPARE(failed.count(), 2);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Unknown language"));
