@@ -11,6 +11,7 @@ PageScaffold {
     property var layouts: []      // { code, name }
     property string preferred: ""
     property string current: ""
+    property string currentName: ""
 
     function load() {
         var codes = keyboard.listLayoutsEnabled();
@@ -21,6 +22,7 @@ PageScaffold {
         layouts = list;
         preferred = keyboard.getPreferredLayoutRaw();
         current = keyboard.getKeyboardLayout();
+        currentName = current === "Unknown" ? qsTr("Unknown") : keyboard.layoutDisplayName(current);
     }
 
     Component.onCompleted: load()
@@ -33,6 +35,12 @@ PageScaffold {
         id: language
     }
 
+    // Layout names come with the catalogue, which may still be loading when the page opens.
+    Connections {
+        target: typeof keyboadLayoutModel !== "undefined" ? keyboadLayoutModel : null
+        function onLoadingChanged() { page.load(); }
+    }
+
     Card {
         Layout.fillWidth: true
         padding: Theme.spacingS
@@ -41,7 +49,7 @@ PageScaffold {
             Layout.fillWidth: true
             iconName: "keyboard"
             title: qsTr("Current layout")
-            description: page.current === "Unknown" ? qsTr("Unknown") : keyboard.layoutDisplayName(page.current)
+            description: page.currentName
         }
         SettingsRow {
             Layout.fillWidth: true

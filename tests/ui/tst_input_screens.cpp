@@ -8,6 +8,7 @@
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQuickWindow>
+#include <QScreen>
 #include <QSettings>
 #include <QtTest>
 
@@ -50,6 +51,19 @@ class tst_InputScreens : public QObject {
         }
     };
 
+    // NORBIX_SCREEN_DIR=DIR keeps a picture of the screen for a person to look at.
+    static void keepPicture(QQuickWindow* window, const QString& name)
+    {
+        const QString dir = qEnvironmentVariable("NORBIX_SCREEN_DIR");
+        if (!dir.isEmpty())
+        {
+            QImage image = window->grabWindow();
+            if (image.isNull())
+                image = window->screen()->grabWindow(window->winId()).toImage();
+            image.save(dir + QLatin1Char('/') + name + QStringLiteral(".png"));
+        }
+    }
+
     static QVariant call(QObject* object, const char* function, const QVariant& argument = {})
     {
         QVariant result;
@@ -87,11 +101,15 @@ private slots:
         const QStringList codes = LanguageBackend::getInstance()->listLocalesInternal();
         screen.objects.keyboardLayoutModel.addRowChecked(codes.indexOf(QStringLiteral("fr")));
         QTRY_COMPARE(dialog->property("okEnabled").toBool(), true);
+        QTest::qWait(300); // the popup's opening transition
+        keepPicture(screen.window.data(), QStringLiteral("add-layouts"));
         QVERIFY(QMetaObject::invokeMethod(dialog, "ok"));
         QCOMPARE(QSettings(screen.sandbox.dataFile("keyboard.ini"), QSettings::IniFormat).value("Layouts").toString(),
                  QStringLiteral("us,de,fr"));
         QTRY_COMPARE(page->property("layouts").toList().size(), 3);
         QCOMPARE(page->property("preferred").toString(), QStringLiteral("de"));
+        QTest::qWait(300); // the popup's closing transition
+        keepPicture(screen.window.data(), QStringLiteral("keyboard"));
         // What the X server got: the preferred layout first.
         QVERIFY(QString::fromUtf8(CommandRunner::instance().run("setxkbmap", {"-query"}).standardOutput)
                     .contains(QStringLiteral("layout:     de,us,fr\n")));
