@@ -27,7 +27,7 @@ struct Sink {
 
 struct Model {
     QList<Pointer> pointers;
-    QStringList layouts{QStringLiteral("us")};
+    QStringList layouts{QStringLiteral("us"), QStringLiteral("de")}; // as the recorded setxkbmap -query
     int doubleClickMs = 500;
     QList<Sink> sinks;
     int activeSink = 0;

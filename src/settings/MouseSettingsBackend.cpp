@@ -23,6 +23,14 @@ QVariant stored(const QString& key, const QVariant& fallback = {})
     return QSettings(keyboardIni(), QSettings::IniFormat).value(key, fallback);
 }
 
+// "us,de" written by hand (without quotes) reads back as a list.
+QStringList storedList(const QString& key)
+{
+    const QVariant value = stored(key);
+    return InputParsers::splitLayouts(value.type() == QVariant::StringList ? value.toStringList().join(QLatin1Char(','))
+                                                                          : value.toString());
+}
+
 void store(const QString& key, const QVariant& value)
 {
     QSettings(keyboardIni(), QSettings::IniFormat).setValue(key, value);
@@ -86,7 +94,7 @@ void MouseSettingsBackend::getMouseNames()
 
 QStringList MouseSettingsBackend::ids() const
 {
-    return InputParsers::splitLayouts(stored(QStringLiteral("Ids")).toString());
+    return storedList(QStringLiteral("Ids"));
 }
 
 float MouseSettingsBackend::getMouseSensetivity()
@@ -255,7 +263,7 @@ void MouseSettingsBackend::setPreferredLayoutRaw(const QString& code)
 
 QStringList MouseSettingsBackend::listLayoutsEnabled()
 {
-    return InputParsers::splitLayouts(stored(QStringLiteral("Layouts")).toString());
+    return storedList(QStringLiteral("Layouts"));
 }
 
 void MouseSettingsBackend::setLayouts(const QStringList& codes)

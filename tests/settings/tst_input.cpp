@@ -356,6 +356,24 @@ private slots:
         QCOMPARE(readKeyboard(sandbox, QStringLiteral("CurrentLayout")).toString(), QStringLiteral("fr"));
     }
 
+    // keyboard.ini as a person writes it: lists without quotes, which QSettings reads as lists.
+    void handWrittenKeyboardIni()
+    {
+        TestSandbox sandbox;
+        FakeCommandRunner runner;
+        TestSandbox::writeFile(keyboardIni(sandbox), "[General]\nLayouts=us, de ,fr\nPreferredLayout=fr\nIds=9,11\n");
+        QCOMPARE(MouseSettingsBackend::listLayoutsEnabled(), (QStringList{"us", "de", "fr"}));
+        QVERIFY(MouseSettingsBackend::initLayouts());
+        QCOMPARE(runner.commandLines().value(0), bash("setxkbmap -layout fr,us,de -option grp:alt_shift_toggle"));
+        MouseSettingsBackend backend;
+        runner.calls.clear();
+        backend.setPrimaryButton(0);
+        QCOMPARE(runner.commandLines(), (QList<QStringList>{{"xinput", "set-button-map", "9", "1", "2", "3"},
+                                                           {"xinput", "set-button-map", "11", "1", "2", "3"}}));
+        LanguageBackend language;
+        QCOMPARE(language.listActiveLayoutsCount(), 3);
+    }
+
     void layoutToolSilent()
     {
         TestSandbox sandbox;
