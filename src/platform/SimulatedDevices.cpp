@@ -97,9 +97,11 @@ std::optional<SimulatedTerminal::Answer> xinput(const QStringList& a)
         return result(0, fixture(QStringLiteral("xinput-list-short.txt")));
     if (a.size() == 2 && a.at(0) == QLatin1String("--list-props")) {
         Pointer* p = pointer(a.at(1));
-        if (!p)
-            return a.at(1) == QLatin1String("2") || a.at(1).toInt() >= 3 ? result(0, "Device '" + a.at(1).toUtf8() + "':\n\tDevice Enabled (183):\t1\n")
-                                                                      : noDevice(a.at(1));
+        if (!p) {
+            // The masters and the keyboards: listed, but nothing to accelerate.
+            const bool listed = fixture(QStringLiteral("xinput-list-short.txt")).contains("\tid=" + a.at(1).toUtf8() + '\t');
+            return listed ? result(0, "Device '" + a.at(1).toUtf8() + "':\n\tDevice Enabled (183):\t1\n") : noDevice(a.at(1));
+        }
         QString props = QString::fromUtf8(fixture(p->fixture));
         static const QRegularExpression speed(QStringLiteral("(libinput Accel Speed \\(\\d+\\):\\t)\\S+"));
         props.replace(speed, QStringLiteral("\\1") + QString::number(p->speed, 'f', 6));

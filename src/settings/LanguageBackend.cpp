@@ -4,7 +4,6 @@
 #include "InputParsers.h"
 #include "MouseSettingsBackend.h"
 #include "QmlSingleton.h"
-#include "SettingsChange.h"
 #include "SystemPaths.h"
 
 #include <QCoreApplication>
