@@ -41,18 +41,22 @@ bool replaceFromSet(const QString& source, const QString& target)
 
 void reloadAfterImport(const QString& key)
 {
-    if (key == QLatin1String("connections"))
-        ConnectionManager::getInstance()->reload();
-    else if (key == QLatin1String("keyboardAndMouse")) {
+    if (key == QLatin1String("keyboardAndMouse")) {
         // The file names another terminal's pointer ids: find this terminal's before applying.
         MouseSettingsBackend mouse;
         MouseSettingsBackend::initLayouts();
         mouse.getMouseNames();
         mouse.applyStartSettings();
-    } else if (key == QLatin1String("languageSettings")) {
+        return;
+    }
+    if (key == QLatin1String("languageSettings")) {
         LanguageBackend* language = LanguageBackend::getInstance();
         language->setCurrentLanguage(language->getCurrentLanguage());
-    } else if (key == QLatin1String("apiSettings"))
+        return;
+    }
+    if (key == QLatin1String("connections"))
+        ConnectionManager::getInstance()->reload();
+    else if (key == QLatin1String("apiSettings"))
         APIManager::getInstance()->setId(QString()); // never another terminal's name: this one makes its own
 }
 
