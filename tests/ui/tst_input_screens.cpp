@@ -46,7 +46,8 @@ class tst_InputScreens : public QObject {
                 qWarning().noquote() << component.errorString();
                 return nullptr;
             }
-            QTest::qWaitForWindowExposed(window.data());
+            if (!QTest::qWaitForWindowExposed(window.data()))
+                return nullptr;
             return window->findChild<QObject*>(QStringLiteral("loader"))->property("item").value<QObject*>();
         }
     };
