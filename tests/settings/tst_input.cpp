@@ -612,6 +612,24 @@ private slots:
         LanguageBackend::setTranslationDirectories({});
     }
 
+    // Once the catalogue is known, stored codes X does not have are left out instead of failing
+    // the whole list.
+    void unknownLayoutsDropped()
+    {
+        TestSandbox sandbox;
+        FakeCommandRunner runner;
+        runner.answer(QStringLiteral("cat /usr/share/X11/xkb/rules/evdev.lst"), fixture(QStringLiteral("evdev.lst")));
+        LanguageBackend* language = LanguageBackend::getInstance();
+        QSignalSpy ready(language, &LanguageBackend::layoutsReady);
+        language->asyncRead();
+        QVERIFY(ready.wait(10000));
+        runner.calls.clear();
+        writeKeyboard(sandbox, {{"Layouts", "us,klingon,de"}, {"PreferredLayout", "klingon"}});
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Skipping unknown keyboard layout.*klingon")));
+        QVERIFY(MouseSettingsBackend::initLayouts());
+        QCOMPARE(runner.commandLines().value(0), bash("setxkbmap -layout us,de -option grp:alt_shift_toggle"));
+    }
+
     void wizardFlag()
     {
         TestSandbox sandbox;
