@@ -145,6 +145,28 @@ private slots:
         QCOMPARE(nameField->property("errorText").toString().isEmpty() && hostField->property("errorText").toString().isEmpty(), added);
     }
 
+    // A picture from the drive becomes the background; a file that is not one changes nothing.
+    void wallpaperChoice()
+    {
+        Screen screen;
+        const QString drive = screen.sandbox.path(QStringLiteral("/media/NORBIX-USB/pictures"));
+        TestSandbox::writeFile(drive + QStringLiteral("/notes.png"), "shopping list");
+        QObject* page = screen.open(QStringLiteral("WallpaperPage.qml"));
+        QVERIFY(page);
+        QCOMPARE(page->property("images").toStringList(),
+                 (QStringList{drive + "/forest.png", drive + "/notes.png", drive + "/sunset.png"}));
+        QCOMPARE(page->property("active").toBool(), false);
+        call(page, "choose", drive + QStringLiteral("/sunset.png"));
+        QCOMPARE(page->property("active").toBool(), true);
+        QCOMPARE(page->property("current").toString(),
+                 QUrl::fromLocalFile(screen.sandbox.dataFile("wallpaper/sunset.png")).toString());
+        call(page, "choose", drive + QStringLiteral("/notes.png"));
+        QCOMPARE(page->property("current").toString(),
+                 QUrl::fromLocalFile(screen.sandbox.dataFile("wallpaper/sunset.png")).toString());
+        QVERIFY(!QFile::exists(screen.sandbox.dataFile("wallpaper/notes.png")));
+        keepPicture(screen.window.data(), QStringLiteral("wallpaper"));
+    }
+
     // A language change retranslates the open screens at once.
     void retranslate()
     {
