@@ -114,13 +114,19 @@ PageScaffold {
 
             SecondaryButton {
                 text: qsTr("Test microphone")
+                enabled: !micTimer.running
                 onClicked: {
                     micHint.text = qsTr("Recording for three seconds, then playing it back...");
-                    // Let the hint paint before the recording holds the screen.
-                    Qt.callLater(function () {
-                        SoundSettingsBackend.testMicrophone();
-                        micHint.text = qsTr("Done. Did you hear yourself?");
-                    });
+                    micTimer.start();
+                }
+            }
+            // Lets the hint paint before the recording holds the screen.
+            Timer {
+                id: micTimer
+                interval: 150
+                onTriggered: {
+                    SoundSettingsBackend.testMicrophone();
+                    micHint.text = qsTr("Done. Did you hear yourself?");
                 }
             }
             Text {
