@@ -15,6 +15,8 @@ NORBIX_PACKAGES=(
     python3 python3-websockets
     xserver-xorg-core xserver-xorg-video-dummy xautolock psmisc procps tzdata
     network-manager python3-dbusmock iputils-ping iw
+    x11-xkb-utils xkb-data xinput openbox feh libx11-dev usbutils
+    pulseaudio pulseaudio-utils alsa-utils libasound2-plugins cups cups-daemon cups-client cups-ipp-utils dbus
 )
 
 # The peers and tools scripts/bench compares the VNC viewer with.

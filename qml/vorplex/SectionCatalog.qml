@@ -33,25 +33,27 @@ QtObject {
                   description: qsTr("Screen blanking and standby timing.") },
                 { id: "datetime", title: qsTr("Date & time"), icon: "clock", admin: false, page: "DateTimePage.qml",
                   description: qsTr("Time zone, clock format and time servers.") },
-                { id: "sound", title: qsTr("Sound"), icon: "sound", admin: false, page: "",
+                { id: "sound", title: qsTr("Sound"), icon: "sound", admin: false, page: "SoundPage.qml",
                   description: qsTr("Output and input devices and volume.") },
-                { id: "keyboard", title: qsTr("Keyboard"), icon: "keyboard", admin: false, page: "",
+                { id: "keyboard", title: qsTr("Keyboard"), icon: "keyboard", admin: false, page: "KeyboardPage.qml",
                   description: qsTr("Keyboard layout and key repeat.") },
-                { id: "mouse", title: qsTr("Mouse"), icon: "mouse", admin: false, page: "",
+                { id: "mouse", title: qsTr("Mouse"), icon: "mouse", admin: false, page: "MousePage.qml",
                   description: qsTr("Pointer speed, button order and double-click timing.") },
-                { id: "language", title: qsTr("Language"), icon: "globe", admin: false, page: "",
+                { id: "language", title: qsTr("Language"), icon: "globe", admin: false, page: "LanguagePage.qml",
                   description: qsTr("Display language and regional formats.") },
-                { id: "wallpaper", title: qsTr("Wallpaper"), icon: "image", admin: false, page: "",
+                { id: "wallpaper", title: qsTr("Wallpaper"), icon: "image", admin: false, page: "WallpaperPage.qml",
                   description: qsTr("Background image of the home screen.") }
             ]
         },
         {
             title: qsTr("Devices"),
             sections: [
-                { id: "printers", title: qsTr("Printers"), icon: "printer", admin: true, page: "",
+                { id: "printers", title: qsTr("Printers"), icon: "printer", admin: true, page: "PrintersPage.qml",
                   description: qsTr("Local and network printers available to sessions.") },
-                { id: "usb-storage", title: qsTr("USB storage"), icon: "usb", admin: true, page: "",
-                  description: qsTr("Access to USB drives on this terminal and in sessions.") }
+                { id: "usb-storage", title: qsTr("USB storage"), icon: "usb", admin: true, page: "UsbStoragePage.qml",
+                  description: qsTr("Access to USB drives on this terminal and in sessions.") },
+                { id: "power-actions", title: qsTr("Shut down & restart"), icon: "power", admin: false, page: "PowerActionsPage.qml",
+                  description: qsTr("Switch the terminal off or start it again.") }
             ]
         },
         {

@@ -10,9 +10,11 @@
 #include "LanguageBackend.h"
 #include "LocalUpdaterBackend.h"
 #include "LogManager.h"
+#include "MouseSettingsBackend.h"
 #include "NetworkManager.h"
 #include "PasswordManager.h"
 #include "PingManager.h"
+#include "PowerBackend.h"
 #include "PrintersBackend.h"
 #include "PuttyConnectDialogBackend.h"
 #include "RDPConnectDialogBackend.h"
@@ -20,6 +22,7 @@
 #include "RemoteAssistanceBackend.h"
 #include "ScreensBackend.h"
 #include "SettingsManager.h"
+#include "SoundSettingsBackend.h"
 #include "TeamsConnector.h"
 #include "TimeBackend.h"
 #include "USBManager.h"
@@ -27,6 +30,7 @@
 #include "VMWareConnectDialogBackend.h"
 #include "VNCConnectDialogBackend.h"
 #include "VNCConnector.h"
+#include "WallpapersManager.h"
 
 #include <QtQml>
 
@@ -37,10 +41,12 @@ void registerQmlTypes()
     qmlRegisterType<CitrixConnectDialogBackend>("com.citrix.ConnectDialogBackend", 1, 0, "CitrixConnectDialogBackend");
     qmlRegisterType<BrowserConnectDialogBackend>("com.browser.ConnectDialogBackend", 1, 0, "BrowserConnectDialogBackend");
     qmlRegisterType<PuttyConnectDialogBackend>("com.putty.ConnectDialogBackend", 1, 0, "PuttyConnectDialogBackend");
+    qmlRegisterType<MouseSettingsBackend>("com.MouseSettingsBackend", 1, 0, "MouseSettingsBackend");
     qmlRegisterType<LanguageBackend>("com.LanguageBackend", 1, 0, "LanguageBackend");
     qmlRegisterType<VNCConnectDialogBackend>("com.vnc.ConnectDialogBackend", 1, 0, "VNCConnectDialogBackend");
     qmlRegisterType<RDPConnectDialogBackend>("com.rdp.ConnectDialogBackend", 1, 0, "RDPConnectDialogBackend");
     qmlRegisterType<ConnectionTableModel>("com.ConnectionTableModel", 1, 0, "ConnectionTableModel");
+    qmlRegisterType<PowerBackend>("com.PowerBackend", 1, 0, "PowerBackend");
     qmlRegisterType<PrintersBackend>("com.PrintersBackend", 1, 0, "PrintersBackend");
     qmlRegisterType<TeamsConnector>("com.TeamsConnector", 1, 0, "TeamsConnector");
     qmlRegisterType<CertificatesStorage>("com.CertificatesStorage", 1, 0, "CertificatesStorage");
@@ -48,9 +54,11 @@ void registerQmlTypes()
     qmlRegisterType<LocalUpdaterBackend>("com.LocalUpdaterBackend", 1, 0, "LocalUpdaterBackend");
     qmlRegisterType<USBManager>("com.USBManager", 1, 0, "USBManager");
     qmlRegisterType<PasswordManager>("com.PasswordManager", 1, 0, "PasswordManager");
+    qmlRegisterType<WallpapersManager>("com.WallpapersManager", 1, 0, "WallpapersManager");
     qmlRegisterType<SettingsManager>("com.SettingsManager", 1, 0, "SettingsManager");
     qmlRegisterSingletonType<VNCConnector>("com.VNCConnector", 1, 0, "VNCConnector", &VNCConnector::qmlInstance);
     qmlRegisterSingletonType<ConnectionManager>("com.ConnectionManager", 1, 0, "ConnectionManager", &ConnectionManager::qmlInstance);
+    qmlRegisterSingletonType<SoundSettingsBackend>("com.SoundSettingsBackend", 1, 0, "SoundSettingsBackend", &SoundSettingsBackend::qmlInstance);
     qmlRegisterSingletonType<ScreensBackend>("com.ScreensBackend", 1, 0, "ScreensBackend", &ScreensBackend::qmlInstance);
     qmlRegisterSingletonType<TimeBackend>("com.TimeBackend", 1, 0, "TimeBackend", &TimeBackend::qmlInstance);
     qmlRegisterType<DisplayRevertGuard>("com.DisplayRevertGuard", 1, 0, "DisplayRevertGuard");
@@ -69,6 +77,8 @@ void ContextObjects::publish(QQmlContext* context)
     context->setContextProperty(QStringLiteral("connectionTableModel"), &connectionTableModel);
     qDebug() << "prepare connectionsModel";
     context->setContextProperty(QStringLiteral("connectionsModel"), &connectionsModel);
+    qDebug() << "prepare keyboardLayoutModel";
+    context->setContextProperty(QStringLiteral("keyboadLayoutModel"), &keyboardLayoutModel);
     qDebug() << "prepare wifiAvailableModel";
     context->setContextProperty(QStringLiteral("wifiAvailableModel"), &wifiAvailableModel);
     qDebug() << "prepare wifiSavedModel";

@@ -6,6 +6,7 @@
 #include "ConnectionsModel.h"
 #include "CryptoUtils.h"
 #include "HardwareUtils.h"
+#include "KeyboardsLayoutModel.h"
 #include "ScreenListModel.h"
 #include "UserAvailableWifiModel.h"
 #include "WiFiAvailableConnectionsModel.h"
@@ -20,6 +21,7 @@ void registerQmlTypes();
 struct ContextObjects {
     ConnectionTableModel connectionTableModel;
     ConnectionsModel connectionsModel;
+    KeyboardsLayoutModel keyboardLayoutModel;
     WiFiAvailableConnectionsModel wifiAvailableModel;
     WiFiSavedConnectionsModel wifiSavedModel;
     UserAvailableWifiModel wifiUserAvailable;

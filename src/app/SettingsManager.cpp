@@ -3,6 +3,8 @@
 #include "APIManager.h"
 #include "AtomicFile.h"
 #include "ConnectionManager.h"
+#include "LanguageBackend.h"
+#include "MouseSettingsBackend.h"
 #include "SettingsChange.h"
 #include "SystemPaths.h"
 
@@ -45,6 +47,19 @@ SettingsManager::Clock& clockSource()
 
 void reloadAfterImport(const QString& key)
 {
+    if (key == QLatin1String("keyboardAndMouse")) {
+        // The file names another terminal's pointer ids: find this terminal's before applying.
+        MouseSettingsBackend mouse;
+        MouseSettingsBackend::initLayouts();
+        mouse.getMouseNames();
+        mouse.applyStartSettings();
+        return;
+    }
+    if (key == QLatin1String("languageSettings")) {
+        LanguageBackend* language = LanguageBackend::getInstance();
+        language->setCurrentLanguage(language->getCurrentLanguage());
+        return;
+    }
     if (key == QLatin1String("connections"))
         ConnectionManager::getInstance()->reload();
     else if (key == QLatin1String("apiSettings"))

@@ -9,6 +9,7 @@
 #include "HardwareUtils.h"
 #include "LanguageBackend.h"
 #include "Logging.h"
+#include "MouseSettingsBackend.h"
 #include "NetworkManager.h"
 #include "QmlRegistration.h"
 #include "RawImageProvider.h"
@@ -137,6 +138,12 @@ int runShell(int argc, char* argv[])
     // Network start-up: the stored Wi-Fi network marked for auto-connect is brought up.
     NetworkManager networkManager;
     networkManager.autoConnect();
+
+    MouseSettingsBackend mouseSettings;
+    MouseSettingsBackend::initLayouts();
+    mouseSettings.startTimer();
+    mouseSettings.getMouseNames();
+    mouseSettings.applyStartSettings();
 
     const QString identity = HardwareUtils::deviceIdentity(HardwareUtils::inventory());
     const QString kernel = kernelDescription();

@@ -1,6 +1,7 @@
 #include "SimulatedTerminal.h"
 
 #include "SimulatedCertificates.h"
+#include "SimulatedDevices.h"
 #include "SimulatedDisplays.h"
 #include "SimulatedNetwork.h"
 #include "SimulatedTime.h"
@@ -189,6 +190,7 @@ void SimulatedTerminal::prepareSandbox()
     for (const char* dir : {"/opt/norbix/tools", "/media/NORBIX-USB", "/usr/local/share/ca-certificates", "/etc"})
         QDir().mkpath(SystemPaths::resolve(QLatin1String(dir)));
     SimulatedCertificates::seedSandbox();
+    SimulatedDevices::seedSandbox();
 }
 
 void SimulatedTerminal::addHandler(const Handler& handler)
@@ -222,6 +224,8 @@ SimulatedTerminal::Answer SimulatedTerminal::answer(const QString& program, cons
     if (auto answer = SimulatedTime::answer(program, arguments))
         return *answer;
     if (auto answer = SimulatedNetwork::answer(program, arguments))
+        return *answer;
+    if (auto answer = SimulatedDevices::answer(program, arguments))
         return *answer;
     if (auto answer = fromTable(program, arguments))
         return *answer;

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+class QQmlEngine;
+class QJSEngine;
+
+// Output and microphone volume and the output device (PulseAudio), and the sound tests.
+class SoundSettingsBackend : public QObject {
+    Q_OBJECT
+public:
+    static SoundSettingsBackend* getInstance();
+    static QObject* qmlInstance(QQmlEngine* engine, QJSEngine* scriptEngine);
+
+    Q_INVOKABLE int getSoundVolume();
+    Q_INVOKABLE void setSoundVolume(int percent);
+    Q_INVOKABLE int getMicrophoneVolume();
+    Q_INVOKABLE void setMicrophoneVolume(int percent);
+    Q_INVOKABLE QStringList listSinks();
+    Q_INVOKABLE int getActiveSink();
+    Q_INVOKABLE void setActiveSink(int index);
+    Q_INVOKABLE void setSoundEnabled(bool enabled);
+    Q_INVOKABLE void testSound();
+    Q_INVOKABLE void testMicrophone();
+
+signals:
+    void activeSinkChanged();
+
+private:
+    explicit SoundSettingsBackend(QObject* parent = nullptr);
+};
