@@ -11,16 +11,21 @@ namespace CommandLog {
 
 void record(const QString& program, const QStringList& arguments, bool detached)
 {
-    const QString path = qEnvironmentVariable("NORBIX_COMMAND_LOG");
-    if (path.isEmpty())
+    if (qEnvironmentVariableIsEmpty("NORBIX_COMMAND_LOG"))
         return;
-
     QJsonObject line;
     line.insert(QStringLiteral("program"), program);
     line.insert(QStringLiteral("args"), QJsonArray::fromStringList(arguments));
     line.insert(QStringLiteral("detached"), detached);
-    const QByteArray bytes = QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+    append(line);
+}
 
+void append(const QJsonObject& line)
+{
+    const QString path = qEnvironmentVariable("NORBIX_COMMAND_LOG");
+    if (path.isEmpty())
+        return;
+    const QByteArray bytes = QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
     // Commands are started from worker threads too (session clients); keep lines whole.
     static QMutex mutex;
     QMutexLocker locker(&mutex);

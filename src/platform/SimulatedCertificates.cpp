@@ -13,23 +13,6 @@
 
 namespace {
 
-QByteArray fixture(const QString& name)
-{
-    QFile file(QStringLiteral(":/simulation/") + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-SimulatedTerminal::Answer result(int exitCode, const QByteArray& out = {}, const QByteArray& err = {})
-{
-    SimulatedTerminal::Answer answer;
-    answer.result.started = true;
-    answer.result.finished = true;
-    answer.result.exitCode = exitCode;
-    answer.result.standardOutput = out;
-    answer.result.standardError = err;
-    return answer;
-}
-
 // Paths in command lines are terminal paths; files picked on the USB drive are already local.
 QString local(const QString& path)
 {
@@ -95,7 +78,7 @@ std::optional<SimulatedTerminal::Answer> readingScript(const QString& script)
         if (options.contains(QLatin1String("-enddate")))
             out += "notAfter=" + opensslDate(certificate.expiryDate()).toUtf8() + '\n';
     }
-    return result(0, out);
+    return SimulatedTerminal::finished(0, out);
 }
 
 QByteArray toPem(const QList<QSslCertificate>& certificates)
@@ -113,9 +96,9 @@ SimulatedTerminal::Answer openssl(const QStringList& arguments)
     if (arguments.value(0) == QLatin1String("x509")) {
         const QSslCertificate certificate(readLocal(in), QSsl::Der);
         if (certificate.isNull())
-            return result(1, {}, fixture(QStringLiteral("openssl-x509-der-error.txt")).replace("%1", in.toUtf8()));
+            return SimulatedTerminal::finished(1, {}, SimulatedTerminal::fixture(QStringLiteral("openssl-x509-der-error.txt")).replace("%1", in.toUtf8()));
         writeLocal(out, certificate.toPem());
-        return result(0);
+        return SimulatedTerminal::finished(0);
     }
     if (arguments.value(0) == QLatin1String("pkcs12")) {
         QString password = argumentAfter(arguments, QStringLiteral("-passin"));
@@ -125,12 +108,12 @@ SimulatedTerminal::Answer openssl(const QStringList& arguments)
         QSslCertificate certificate;
         QList<QSslCertificate> chain;
         if (!file.open(QIODevice::ReadOnly) || !QSslCertificate::importPkcs12(&file, &key, &certificate, &chain, password.toUtf8()))
-            return result(1, {}, fixture(QStringLiteral("openssl-pkcs12-bad-password.txt")));
+            return SimulatedTerminal::finished(1, {}, SimulatedTerminal::fixture(QStringLiteral("openssl-pkcs12-bad-password.txt")));
         const bool withChain = arguments.contains(QLatin1String("-chain"));
         writeLocal(out, toPem(QList<QSslCertificate>{certificate} + (withChain ? chain : QList<QSslCertificate>())));
-        return result(0, {}, withChain ? fixture(QStringLiteral("openssl-pkcs12-chain-warning.txt")) : QByteArray());
+        return SimulatedTerminal::finished(0, {}, withChain ? SimulatedTerminal::fixture(QStringLiteral("openssl-pkcs12-chain-warning.txt")) : QByteArray());
     }
-    return result(0);
+    return SimulatedTerminal::finished(0);
 }
 
 } // namespace
@@ -153,16 +136,16 @@ std::optional<SimulatedTerminal::Answer> answer(const QString& program, const QS
     if (tool == QLatin1String("openssl"))
         return openssl(arguments.mid(1));
     if (tool == QLatin1String("update-ca-certificates"))
-        return result(0, fixture(QStringLiteral("update-ca-certificates.txt")), fixture(QStringLiteral("update-ca-certificates-stderr.txt")));
+        return SimulatedTerminal::finished(0, SimulatedTerminal::fixture(QStringLiteral("update-ca-certificates.txt")), SimulatedTerminal::fixture(QStringLiteral("update-ca-certificates-stderr.txt")));
     const bool certificateFile = arguments.size() >= 2 && arguments.last().startsWith(QLatin1String("/usr/local/share/ca-certificates/"));
     if (tool == QLatin1String("cp") && arguments.size() == 3 && certificateFile) {
         QFile::remove(local(arguments.at(2)));
-        return QFile::copy(local(arguments.at(1)), local(arguments.at(2))) ? result(0)
-            : result(1, {}, QStringLiteral("cp: cannot stat '%1': No such file or directory\n").arg(arguments.at(1)).toUtf8());
+        return QFile::copy(local(arguments.at(1)), local(arguments.at(2))) ? SimulatedTerminal::finished(0)
+            : SimulatedTerminal::finished(1, {}, QStringLiteral("cp: cannot stat '%1': No such file or directory\n").arg(arguments.at(1)).toUtf8());
     }
     if (tool == QLatin1String("rm") && arguments.size() == 2 && certificateFile) {
-        return QFile::remove(local(arguments.at(1))) ? result(0)
-            : result(1, {}, QStringLiteral("rm: cannot remove '%1': No such file or directory\n").arg(arguments.at(1)).toUtf8());
+        return QFile::remove(local(arguments.at(1))) ? SimulatedTerminal::finished(0)
+            : SimulatedTerminal::finished(1, {}, QStringLiteral("rm: cannot remove '%1': No such file or directory\n").arg(arguments.at(1)).toUtf8());
     }
     return std::nullopt;
 }

@@ -51,17 +51,6 @@ QMutex g_mutex;
 QList<Output> g_outputs;
 bool g_loaded = false;
 
-SimulatedTerminal::Answer result(int exitCode, const QByteArray& out = {}, const QByteArray& err = {})
-{
-    SimulatedTerminal::Answer answer;
-    answer.result.started = true;
-    answer.result.finished = true;
-    answer.result.exitCode = exitCode;
-    answer.result.standardOutput = out;
-    answer.result.standardError = err;
-    return answer;
-}
-
 // Seeds the model from the recorded output of a two-monitor terminal.
 void load()
 {
@@ -180,21 +169,21 @@ SimulatedTerminal::Answer configure(const QStringList& arguments)
         const bool takesValue = option != QLatin1String("--primary") && option != QLatin1String("--off")
             && option != QLatin1String("--auto");
         if (takesValue && value.isEmpty())
-            return result(1, {}, "xrandr: " + option.toUtf8() + " requires an argument\n");
+            return SimulatedTerminal::finished(1, {}, "xrandr: " + option.toUtf8() + " requires an argument\n");
         if (option == QLatin1String("--output")) {
             Output* output = find(value);
             if (!output)
-                return result(1, {}, "warning: output " + value.toUtf8() + " not found; ignoring\n");
+                return SimulatedTerminal::finished(1, {}, "warning: output " + value.toUtf8() + " not found; ignoring\n");
             requests << Request{output, {}, {}, {}, {}, {}, false, false};
         } else if (requests.isEmpty()) {
-            return result(1, {}, "xrandr: unrecognized option '" + option.toUtf8() + "'\n");
+            return SimulatedTerminal::finished(1, {}, "xrandr: unrecognized option '" + option.toUtf8() + "'\n");
         } else if (option == QLatin1String("--mode")) {
             requests.last().mode = value;
         } else if (option == QLatin1String("--rate")) {
             requests.last().rate = value;
         } else if (option == QLatin1String("--rotate")) {
             if (!QStringList{"normal", "left", "right", "inverted"}.contains(value))
-                return result(1, {}, "xrandr: invalid rotation '" + value.toUtf8() + "'\n");
+                return SimulatedTerminal::finished(1, {}, "xrandr: invalid rotation '" + value.toUtf8() + "'\n");
             requests.last().rotation = value;
         } else if (option == QLatin1String("--left-of")) {
             requests.last().leftOf = value;
@@ -207,7 +196,7 @@ SimulatedTerminal::Answer configure(const QStringList& arguments)
         } else if (option == QLatin1String("--auto")) {
             requests.last().mode = requests.last().output->preferredMode;
         } else {
-            return result(1, {}, "xrandr: unrecognized option '" + option.toUtf8() + "'\n");
+            return SimulatedTerminal::finished(1, {}, "xrandr: unrecognized option '" + option.toUtf8() + "'\n");
         }
         if (takesValue)
             ++i;
@@ -216,11 +205,11 @@ SimulatedTerminal::Answer configure(const QStringList& arguments)
         const QString mode = request.mode.isEmpty() ? request.output->mode : request.mode;
         const Mode* known = request.output->findMode(mode);
         if (!request.off && !known)
-            return result(1, {}, "xrandr: cannot find mode " + mode.toUtf8() + "\n");
+            return SimulatedTerminal::finished(1, {}, "xrandr: cannot find mode " + mode.toUtf8() + "\n");
         if (!request.off && !request.rate.isEmpty() && !known->rates.contains(request.rate))
-            return result(1, {}, "xrandr: cannot find mode " + mode.toUtf8() + " at " + request.rate.toUtf8() + " Hz\n");
+            return SimulatedTerminal::finished(1, {}, "xrandr: cannot find mode " + mode.toUtf8() + " at " + request.rate.toUtf8() + " Hz\n");
         if ((!request.leftOf.isEmpty() && !find(request.leftOf)) || (!request.sameAs.isEmpty() && !find(request.sameAs)))
-            return result(1, {}, "xrandr: cannot find output\n");
+            return SimulatedTerminal::finished(1, {}, "xrandr: cannot find output\n");
     }
 
     for (const Request& request : qAsConst(requests)) {
@@ -274,7 +263,7 @@ SimulatedTerminal::Answer configure(const QStringList& arguments)
             request.output->y = partner->y;
         }
     }
-    return result(0);
+    return SimulatedTerminal::finished(0);
 }
 
 // "xrandr -s 0": every monitor back to its preferred mode, side by side.
@@ -303,10 +292,10 @@ std::optional<SimulatedTerminal::Answer> SimulatedDisplays::answer(const QString
     if (!g_loaded)
         load();
     if (arguments.isEmpty() || arguments == QStringList(QStringLiteral("--query")))
-        return result(0, render());
+        return SimulatedTerminal::finished(0, render());
     if (arguments == QStringList{QStringLiteral("-s"), QStringLiteral("0")}) {
         defaultSize();
-        return result(0);
+        return SimulatedTerminal::finished(0);
     }
     return configure(arguments);
 }

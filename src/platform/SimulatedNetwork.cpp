@@ -90,13 +90,7 @@ Network& network()
 
 SimulatedTerminal::Answer output(const QString& text, int exitCode = 0, const QString& errors = QString())
 {
-    SimulatedTerminal::Answer answer;
-    answer.result.started = true;
-    answer.result.finished = true;
-    answer.result.exitCode = exitCode;
-    answer.result.standardOutput = text.toUtf8();
-    answer.result.standardError = errors.toUtf8();
-    return answer;
+    return SimulatedTerminal::finished(exitCode, text.toUtf8(), errors.toUtf8());
 }
 
 // nmcli pads every column to its widest cell plus two blanks.

@@ -33,24 +33,9 @@ std::vector<SimulatedTerminal::Handler>& handlers()
     return list;
 }
 
-QByteArray fixture(const QString& name)
-{
-    QFile file(QStringLiteral(":/simulation/") + name);
-    if (!file.open(QIODevice::ReadOnly)) {
-        qWarning() << "simulated terminal: missing fixture" << name;
-        return {};
-    }
-    return file.readAll();
-}
-
 SimulatedTerminal::Answer succeeded(const QByteArray& output = {})
 {
-    SimulatedTerminal::Answer answer;
-    answer.result.started = true;
-    answer.result.finished = true;
-    answer.result.exitCode = 0;
-    answer.result.standardOutput = output;
-    return answer;
+    return SimulatedTerminal::finished(0, output);
 }
 
 // "bash -c '... mkdir -p /x ...'" makes the folders inside the sandbox, so the data directory exists
@@ -175,6 +160,27 @@ private:
 };
 
 } // namespace
+
+SimulatedTerminal::Answer SimulatedTerminal::finished(int exitCode, const QByteArray& out, const QByteArray& err)
+{
+    Answer answer;
+    answer.result.started = true;
+    answer.result.finished = true;
+    answer.result.exitCode = exitCode;
+    answer.result.standardOutput = out;
+    answer.result.standardError = err;
+    return answer;
+}
+
+QByteArray SimulatedTerminal::fixture(const QString& name)
+{
+    QFile file(QStringLiteral(":/simulation/") + name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qWarning() << "simulated terminal: missing fixture" << name;
+        return {};
+    }
+    return file.readAll();
+}
 
 SimulatedTerminal::SimulatedTerminal()
 {

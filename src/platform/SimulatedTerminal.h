@@ -26,6 +26,11 @@ public:
     // What the terminal answers to one command (public for tests and tools).
     Answer answer(const QString& program, const QStringList& arguments) const;
 
+    // A command that ran to its end with this status and output (for the handlers of each domain).
+    static Answer finished(int exitCode = 0, const QByteArray& out = {}, const QByteArray& err = {});
+    // A recorded output of a real tool (tests/data/simulation, compiled in); empty when missing.
+    static QByteArray fixture(const QString& name);
+
     // Creates the folders a terminal image has (under NORBIX_ROOT only).
     static void prepareSandbox();
 

@@ -19,17 +19,6 @@ QString g_zone = QStringLiteral("Europe/Berlin");
 bool g_ntp = true;
 qint64 g_offsetMs = 0; // the set time minus the workstation's clock
 
-SimulatedTerminal::Answer result(int exitCode, const QByteArray& out = {}, const QByteArray& err = {})
-{
-    SimulatedTerminal::Answer answer;
-    answer.result.started = true;
-    answer.result.finished = true;
-    answer.result.exitCode = exitCode;
-    answer.result.standardOutput = out;
-    answer.result.standardError = err;
-    return answer;
-}
-
 // As systemd 252 prints it.
 QByteArray status()
 {
@@ -52,7 +41,7 @@ QByteArray status()
 SimulatedTerminal::Answer timedatectl(const QStringList& arguments)
 {
     if (arguments.isEmpty() || arguments == QStringList(QStringLiteral("status")))
-        return result(0, status());
+        return SimulatedTerminal::finished(0, status());
     const QString verb = arguments.first();
     if (verb == QLatin1String("set-ntp") && arguments.size() == 2) {
         const QString value = arguments.at(1);
@@ -61,27 +50,27 @@ SimulatedTerminal::Answer timedatectl(const QStringList& arguments)
         else if (QStringList{"0", "false", "no", "off"}.contains(value))
             g_ntp = false;
         else
-            return result(1, {}, "Failed to parse NTP setting '" + value.toUtf8() + "': Invalid argument\n");
-        return result(0);
+            return SimulatedTerminal::finished(1, {}, "Failed to parse NTP setting '" + value.toUtf8() + "': Invalid argument\n");
+        return SimulatedTerminal::finished(0);
     }
     if (verb == QLatin1String("set-timezone") && arguments.size() == 2) {
         if (!QFileInfo::exists(QStringLiteral("/usr/share/zoneinfo/") + arguments.at(1))
             && !QTimeZone(arguments.at(1).toUtf8()).isValid())
-            return result(1, {}, "Failed to set time zone: Invalid or not installed time zone '" + arguments.at(1).toUtf8() + "'\n");
+            return SimulatedTerminal::finished(1, {}, "Failed to set time zone: Invalid or not installed time zone '" + arguments.at(1).toUtf8() + "'\n");
         g_zone = arguments.at(1);
-        return result(0);
+        return SimulatedTerminal::finished(0);
     }
     if (verb == QLatin1String("set-time") && arguments.size() == 2) {
         if (g_ntp)
-            return result(1, {}, "Failed to set time: Automatic time synchronization is enabled\n");
+            return SimulatedTerminal::finished(1, {}, "Failed to set time: Automatic time synchronization is enabled\n");
         QDateTime wanted = QDateTime::fromString(arguments.at(1), QStringLiteral("yyyy-MM-dd hh:mm:ss"));
         if (!wanted.isValid())
-            return result(1, {}, "Failed to parse time specification '" + arguments.at(1).toUtf8() + "': Invalid argument\n");
+            return SimulatedTerminal::finished(1, {}, "Failed to parse time specification '" + arguments.at(1).toUtf8() + "': Invalid argument\n");
         wanted.setTimeZone(QTimeZone(g_zone.toUtf8()));
         g_offsetMs = QDateTime::currentDateTimeUtc().msecsTo(wanted.toUTC());
-        return result(0);
+        return SimulatedTerminal::finished(0);
     }
-    return result(1, {}, "Unknown command verb " + verb.toUtf8() + ".\n");
+    return SimulatedTerminal::finished(1, {}, "Unknown command verb " + verb.toUtf8() + ".\n");
 }
 
 } // namespace
@@ -99,16 +88,16 @@ std::optional<SimulatedTerminal::Answer> SimulatedTime::answer(const QString& pr
         return std::nullopt;
     if (arguments == QStringList{QStringLiteral("rm"), kTimesyncd}) {
         if (!QFile::remove(SystemPaths::resolve(kTimesyncd)))
-            return result(1, {}, "rm: cannot remove '/etc/systemd/timesyncd.conf': No such file or directory\n");
-        return result(0);
+            return SimulatedTerminal::finished(1, {}, "rm: cannot remove '/etc/systemd/timesyncd.conf': No such file or directory\n");
+        return SimulatedTerminal::finished(0);
     }
     if (arguments.size() == 3 && arguments.at(0) == QLatin1String("cp") && arguments.at(2) == kTimesyncd) {
         const QString target = SystemPaths::resolve(kTimesyncd);
         QDir().mkpath(QFileInfo(target).absolutePath());
         QFile::remove(target);
         if (!QFile::copy(SystemPaths::resolve(arguments.at(1)), target))
-            return result(1, {}, "cp: cannot stat '" + arguments.at(1).toUtf8() + "': No such file or directory\n");
-        return result(0);
+            return SimulatedTerminal::finished(1, {}, "cp: cannot stat '" + arguments.at(1).toUtf8() + "': No such file or directory\n");
+        return SimulatedTerminal::finished(0);
     }
     return std::nullopt;
 }

@@ -1,5 +1,7 @@
 #include "SystemBus.h"
 
+#include "CommandLog.h"
+
 #include "CommandRunner.h"
 #include "SimulatedNetwork.h"
 
@@ -130,12 +132,7 @@ void logCall(const BusCall& call)
     line.insert(QStringLiteral("interface"), call.interface);
     line.insert(QStringLiteral("method"), call.method);
     line.insert(QStringLiteral("args"), args);
-    const QByteArray bytes = QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
-    static QMutex mutex;
-    QMutexLocker locker(&mutex);
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Append))
-        file.write(bytes);
+    CommandLog::append(line);
 }
 
 // The real system bus. A connection profile map is sent as a{sa{sv}}; one received as such comes

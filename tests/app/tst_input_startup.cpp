@@ -1,6 +1,4 @@
-#include "Logging.h"
-#include "ShellProcess.h"
-#include "TestSandbox.h"
+#include "SimulatedShell.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,41 +10,10 @@
 class tst_InputStartup : public QObject {
     Q_OBJECT
 
-    struct Terminal {
-        TestSandbox sandbox;
-        QTemporaryDir workingDir;
-        ShellProcess shell;
-
+    struct Terminal : SimulatedShell {
         Terminal()
         {
-            shell.workingDirectory = workingDir.path();
-            shell.environment.insert(QStringLiteral("NORBIX_SIMULATE"), QStringLiteral("1"));
-            shell.environment.insert(QStringLiteral("NORBIX_ROOT"), sandbox.root());
-            shell.environment.insert(QStringLiteral("HOME"), sandbox.home());
-            shell.environment.insert(QStringLiteral("NORBIX_COMMAND_LOG"), sandbox.home() + QStringLiteral("/commands.jsonl"));
-            shell.environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-            shell.environment.remove(QStringLiteral("DISPLAY"));
             TestSandbox::writeFile(sandbox.dataFile(QStringLiteral("api.ini")), "[General]\nDebugLogs=true\n"); // "prepare" lines
-        }
-        ShellRun start()
-        {
-            return shell.run(QStringLiteral(NORBIX_SHELL_BINARY),
-                             {"--screenshot", sandbox.home() + QStringLiteral("/shot.png"), "--size", "1280x720"});
-        }
-        QString log() const { return QString::fromUtf8(TestSandbox::readFile(Logging::logFilePath(QDate::currentDate()))); }
-        QStringList commands() const
-        {
-            QStringList lines;
-            for (const QByteArray& line : TestSandbox::readFile(sandbox.home() + QStringLiteral("/commands.jsonl")).split('\n')) {
-                const QJsonObject object = QJsonDocument::fromJson(line).object();
-                if (object.isEmpty())
-                    continue;
-                QStringList words(object.value("program").toString());
-                for (const QJsonValue& arg : object.value("args").toArray())
-                    words << arg.toString();
-                lines << words.join(QLatin1Char(' '));
-            }
-            return lines;
         }
         void storeKeyboard(const QByteArray& ini) { TestSandbox::writeFile(sandbox.dataFile(QStringLiteral("keyboard.ini")), ini); }
     };

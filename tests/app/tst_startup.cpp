@@ -1,6 +1,4 @@
-#include "Logging.h"
-#include "ShellProcess.h"
-#include "TestSandbox.h"
+#include "SimulatedShell.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,42 +13,7 @@
 class tst_Startup : public QObject {
     Q_OBJECT
 
-    struct Terminal {
-        TestSandbox sandbox;
-        QTemporaryDir workingDir;
-        ShellProcess shell;
-
-        Terminal()
-        {
-            QFile::copy(QStringLiteral(NORBIX_BUILD_DIR "/quarnos.ttf"), workingDir.filePath(QStringLiteral("quarnos.ttf")));
-            shell.workingDirectory = workingDir.path();
-            shell.environment.insert(QStringLiteral("NORBIX_SIMULATE"), QStringLiteral("1"));
-            shell.environment.insert(QStringLiteral("NORBIX_ROOT"), sandbox.root());
-            shell.environment.insert(QStringLiteral("HOME"), sandbox.home());
-            shell.environment.insert(QStringLiteral("NORBIX_COMMAND_LOG"), commandLog());
-            shell.environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-            shell.environment.remove(QStringLiteral("QT_QUICK_BACKEND"));
-            shell.environment.remove(QStringLiteral("DISPLAY"));
-        }
-        QString commandLog() const { return sandbox.home() + QStringLiteral("/commands.jsonl"); }
-        QString screenshot() const { return sandbox.home() + QStringLiteral("/shot.png"); }
-        ShellRun start() { return shell.run(QStringLiteral(NORBIX_SHELL_BINARY), {"--screenshot", screenshot(), "--size", "1280x720"}); }
-        QString log() const { return QString::fromUtf8(TestSandbox::readFile(Logging::logFilePath(QDate::currentDate()))); }
-        QStringList commands() const
-        {
-            QStringList lines;
-            for (const QByteArray& line : TestSandbox::readFile(commandLog()).split('\n')) {
-                const QJsonObject object = QJsonDocument::fromJson(line).object();
-                if (object.isEmpty())
-                    continue;
-                QStringList words(object.value("program").toString());
-                for (const QJsonValue& arg : object.value("args").toArray())
-                    words << arg.toString();
-                lines << words.join(QLatin1Char(' '));
-            }
-            return lines;
-        }
-    };
+    using Terminal = SimulatedShell;
 
 private slots:
     void initTestCase()

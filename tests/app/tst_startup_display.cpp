@@ -1,7 +1,5 @@
 // The saved display arrangement is put back when the shell starts.
-#include "Logging.h"
-#include "ShellProcess.h"
-#include "TestSandbox.h"
+#include "SimulatedShell.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -19,34 +17,13 @@ class tst_StartupDisplay : public QObject {
 
     static Run start(const QByteArray& displayIni)
     {
-        TestSandbox sandbox;
-        QTemporaryDir workingDir;
+        SimulatedShell terminal;
         if (!displayIni.isNull())
-            TestSandbox::writeFile(sandbox.dataFile(QStringLiteral("display.ini")), displayIni);
-        ShellProcess shell;
-        shell.workingDirectory = workingDir.path();
-        shell.environment.insert(QStringLiteral("NORBIX_SIMULATE"), QStringLiteral("1"));
-        shell.environment.insert(QStringLiteral("NORBIX_ROOT"), sandbox.root());
-        shell.environment.insert(QStringLiteral("HOME"), sandbox.home());
-        shell.environment.insert(QStringLiteral("NORBIX_COMMAND_LOG"), sandbox.home() + QStringLiteral("/commands.jsonl"));
-        shell.environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        shell.environment.remove(QStringLiteral("DISPLAY"));
-        const ShellRun run = shell.run(QStringLiteral(NORBIX_SHELL_BINARY),
-                                       {"--screenshot", sandbox.home() + QStringLiteral("/shot.png"), "--size", "1280x720"});
+            TestSandbox::writeFile(terminal.sandbox.dataFile(QStringLiteral("display.ini")), displayIni);
+        const ShellRun run = terminal.start();
         if (run.exitCode != 0)
             qWarning() << run.err;
-        Run result;
-        for (const QByteArray& line : TestSandbox::readFile(sandbox.home() + QStringLiteral("/commands.jsonl")).split('\n')) {
-            const QJsonObject object = QJsonDocument::fromJson(line).object();
-            if (object.isEmpty())
-                continue;
-            QStringList words(object.value("program").toString());
-            for (const QJsonValue& arg : object.value("args").toArray())
-                words << arg.toString();
-            result.commands << words.join(QLatin1Char(' '));
-        }
-        result.log = QString::fromUtf8(TestSandbox::readFile(Logging::logFilePath(QDate::currentDate())));
-        return result;
+        return {terminal.commands(), terminal.log()};
     }
 
 private slots:

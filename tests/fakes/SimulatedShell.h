@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Logging.h"
+#include "ShellProcess.h"
+#include "TestSandbox.h"
+
+#include <QDate>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+// The real norbix-shell in the simulated terminal, with a sandbox and a working directory of its
+// own: start it, then read its log and the commands it ran (as "program arg arg ..." lines).
+// Header-only: it needs the log file's name from the app library, which the fakes do not link.
+struct SimulatedShell {
+    TestSandbox sandbox;
+    QTemporaryDir workingDir;
+    ShellProcess shell;
+
+    SimulatedShell()
+    {
+        QFile::copy(QStringLiteral(NORBIX_BUILD_DIR "/quarnos.ttf"), workingDir.filePath(QStringLiteral("quarnos.ttf")));
+        shell.workingDirectory = workingDir.path();
+        shell.environment.insert(QStringLiteral("NORBIX_SIMULATE"), QStringLiteral("1"));
+        shell.environment.insert(QStringLiteral("NORBIX_ROOT"), sandbox.root());
+        shell.environment.insert(QStringLiteral("HOME"), sandbox.home());
+        shell.environment.insert(QStringLiteral("NORBIX_COMMAND_LOG"), commandLog());
+        shell.environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        shell.environment.remove(QStringLiteral("QT_QUICK_BACKEND"));
+        shell.environment.remove(QStringLiteral("DISPLAY"));
+    }
+
+    QString commandLog() const { return sandbox.home() + QStringLiteral("/commands.jsonl"); }
+    QString screenshot() const { return sandbox.home() + QStringLiteral("/shot.png"); }
+
+    // Starts the shell, waits until its main view is on screen, saves it and lets it exit.
+    ShellRun start(const QStringList& extraArguments = {})
+    {
+        return shell.run(QStringLiteral(NORBIX_SHELL_BINARY),
+                         QStringList{"--screenshot", screenshot(), "--size", "1280x720"} + extraArguments);
+    }
+
+    QString log() const { return QString::fromUtf8(TestSandbox::readFile(Logging::logFilePath(QDate::currentDate()))); }
+
+    QStringList commands() const
+    {
+        QStringList lines;
+        for (const QByteArray& line : TestSandbox::readFile(commandLog()).split('\n')) {
+            const QJsonObject object = QJsonDocument::fromJson(line).object();
+            if (object.isEmpty())
+                continue;
+            QStringList words(object.value(QLatin1String("program")).toString());
+            for (const QJsonValue& arg : object.value(QLatin1String("args")).toArray())
+                words << arg.toString();
+            lines << words.join(QLatin1Char(' '));
+        }
+        return lines;
+    }
+};
