@@ -132,8 +132,11 @@ int runShell(int argc, char* argv[])
 
     ContextObjects contextObjects;
     contextObjects.publish(engine.rootContext());
-    // The saved display arrangement is put back on every start.
+    // The saved display arrangement is put back on every start, and so are the power-saving timers:
+    // the X server forgets them when it restarts.
     ScreensBackend::getInstance()->loadInitial();
+    ScreensBackend::getInstance()->applyTurnOffTime();
+    ScreensBackend::getInstance()->applySleepTime();
 
     // Network start-up: the stored Wi-Fi network marked for auto-connect is brought up.
     NetworkManager networkManager;

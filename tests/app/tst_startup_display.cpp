@@ -32,30 +32,41 @@ private slots:
         QTest::addColumn<QByteArray>("displayIni");
         QTest::addColumn<QString>("command"); // empty: no layout command
         QTest::addColumn<QString>("logLine");
+        QTest::addColumn<QStringList>("timers"); // the power-saving commands, in order
+        const QStringList neverOff = {"gsettings set org.gnome.desktop.screensaver lock-enabled false", "xset -dpms s off",
+                                      "killall xautolock"};
         QTest::newRow("saved order differs")
             << QByteArray("Mode=0\n[DP-1]\nResolution=1280x720\nRate=59.94\nPrimary=true\nOrientation=2\n[Order]\nScreenOrder=\"DP-1,HDMI-1\"\n")
             << "xrandr --output HDMI-1 --mode 1920x1080 --rotate normal --rate 60.00 --output DP-1 --left-of HDMI-1 "
                "--mode 1280x720 --rotate left --rate 59.94 --primary"
-            << "Order not equeal to constructed";
+            << "Order not equeal to constructed" << neverOff;
         QTest::newRow("same order, mirror")
-            << QByteArray("Mode=1\n[Order]\nScreenOrder=\"HDMI-1,DP-1\"\n")
+            << QByteArray("Mode=1\nTurnOffTime=2\nSleepTime=1\n[Order]\nScreenOrder=\"HDMI-1,DP-1\"\n")
             << "xrandr --output DP-1 --mode 1920x1080 --rotate normal --rate 60.00 --output HDMI-1 --same-as DP-1 "
                "--mode 1920x1080 --rotate normal --rate 60.00 --primary"
-            << "Order equeal to constructed";
-        QTest::newRow("nothing saved") << QByteArray() << "" << "No saved display settings";
+            << "Order equeal to constructed"
+            << QStringList{"gsettings set org.gnome.desktop.screensaver lock-enabled false", "xset dpms 300 300 0 s off",
+                           "killall xautolock", "xautolock -time 5 -locker /opt/norbix/tools/suspend.sh"};
+        QTest::newRow("nothing saved") << QByteArray() << "" << "No saved display settings" << neverOff;
     }
     void replay()
     {
         QFETCH(QByteArray, displayIni);
         QFETCH(QString, command);
         QFETCH(QString, logLine);
+        QFETCH(QStringList, timers);
         const Run run = start(displayIni);
         QStringList layouts;
+        QStringList powerSaving;
         for (const QString& line : run.commands) {
             if (line.startsWith(QLatin1String("xrandr --output")))
                 layouts << line;
+            if (line.startsWith(QLatin1String("gsettings")) || line.contains(QLatin1String("xset"))
+                || line.contains(QLatin1String("xautolock")))
+                powerSaving << line;
         }
         QCOMPARE(layouts, command.isEmpty() ? QStringList() : QStringList(command));
+        QCOMPARE(powerSaving, timers);
         QVERIFY2(run.log.contains(logLine), qPrintable(run.log));
         // Replayed after the models are published and before the agent starts.
         const int models = run.log.indexOf(QLatin1String("Models ready"));
