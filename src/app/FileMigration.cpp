@@ -7,6 +7,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 
 namespace {
 
@@ -50,11 +51,20 @@ void migrateFiles()
     writeSuspendScript();
 }
 
-void removeStaleLocks()
+void removeWriteLeftovers()
 {
-    const QDir data(SystemPaths::dataFile(QString()));
-    for (const QString& name : data.entryList({QStringLiteral("*.lock")}, QDir::Files | QDir::Hidden)) {
-        qWarning().noquote() << "Removing stale lock" << name;
-        QFile::remove(data.filePath(name));
+    static const QRegularExpression leftover(QStringLiteral("^(.+\\.lock|.+\\.[A-Za-z0-9]{6})$"));
+    for (const QString& folder : {SystemPaths::dataFile(QString()), SystemPaths::dataFile(QStringLiteral("wallpaper"))}) {
+        const QDir dir(folder);
+        for (const QString& name : dir.entryList(QDir::Files | QDir::Hidden)) {
+            if (!leftover.match(name).hasMatch())
+                continue;
+            // A temporary copy is only recognised beside the file it was meant to replace.
+            const bool lock = name.endsWith(QLatin1String(".lock"));
+            if (!lock && !QFile::exists(dir.filePath(name.left(name.size() - 7))))
+                continue;
+            qWarning().noquote() << "Removing what an interrupted write left:" << name;
+            QFile::remove(dir.filePath(name));
+        }
     }
 }

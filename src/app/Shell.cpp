@@ -109,7 +109,7 @@ int runShell(int argc, char* argv[])
     qWarning("migrateFiles()");
     migrateFiles();
     qWarning("migrateFiles() end");
-    removeStaleLocks();
+    removeWriteLeftovers();
 
     qWarning("Version: %s", kVersion);
 

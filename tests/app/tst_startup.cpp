@@ -82,7 +82,7 @@ private slots:
         QTest::newRow("font missing") << "font";
         QTest::newRow("data directory is a file") << "datafile";
         QTest::newRow("log directory is a file") << "logs";
-        QTest::newRow("INI lock left by a power cut") << "lock";
+        QTest::newRow("writes cut short by a power loss") << "leftovers";
     }
     void startsAnyway()
     {
@@ -100,19 +100,28 @@ private slots:
         }
         if (damage == QLatin1String("logs"))
             TestSandbox::writeFile(terminal.sandbox.home() + QStringLiteral("/logs"), "not a directory");
-        // The lock of a writer that held this very process number: only its age would free it.
+        // The lock of a writer that held this very process number (only its age would free it) and
+        // the temporary copy of a whole-file write that was not renamed into place.
         const QString lock = terminal.sandbox.dataFile(QStringLiteral("api.ini.lock"));
-        if (damage == QLatin1String("lock"))
+        const QString copy = terminal.sandbox.dataFile(QStringLiteral("hosts.Ab3dEf"));
+        const QString unrelated = terminal.sandbox.dataFile(QStringLiteral("notes.Ab3dEf"));
+        if (damage == QLatin1String("leftovers")) {
             TestSandbox::writeFile(lock, "1\nnorbix-shell\n\n");
+            TestSandbox::writeFile(terminal.sandbox.dataFile(QStringLiteral("hosts")), "127.0.0.1 localhost\n");
+            TestSandbox::writeFile(copy, "127.0.0.1 local");
+            TestSandbox::writeFile(unrelated, "kept: nothing of ours is called notes");
+        }
 
         const ShellRun run = terminal.start();
         QVERIFY2(run.exitCode == 0, run.err.constData());
         QCOMPARE(QImage(terminal.screenshot()).size(), QSize(1280, 720));
         if (damage == QLatin1String("font"))
             QVERIFY(run.out.contains("Cannot load the font quarnos.ttf"));
-        if (damage == QLatin1String("lock")) {
+        if (damage == QLatin1String("leftovers")) {
             QVERIFY(!QFile::exists(lock));
-            QVERIFY(terminal.log().contains(QStringLiteral("Removing stale lock api.ini.lock")));
+            QVERIFY(!QFile::exists(copy));
+            QVERIFY(QFile::exists(unrelated));
+            QVERIFY(terminal.log().contains(QStringLiteral("Removing what an interrupted write left: hosts.Ab3dEf")));
         }
     }
 };

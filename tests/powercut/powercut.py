@@ -70,20 +70,21 @@ class Harness:
         print(f"FAIL {kind} kill {cycle}: {text}", flush=True)
 
     def judge(self, kind, cycle, found, allowed, subjects):
-        """allowed: {subject: set of generations (None for "not written yet")}."""
+        """allowed: {(subject, file): set of generations (None for "not written yet")}."""
         for (subject, file), state in found.items():
             if subject not in subjects:
                 continue
+            options = allowed.get((subject, file), {None})
             if state[0] == "CORRUPT":
                 self.fail(kind, cycle, f"{file} is corrupt: {state[1]}")
             elif subject == "export":
                 continue  # a count of sets, each checked whole
             elif state[0] == "ABSENT":
-                if None not in allowed.get(subject, {None}):
+                if None not in options:
                     self.fail(kind, cycle, f"{file} is gone")
-            elif state[1] not in allowed.get(subject, set()):
+            elif state[1] not in options:
                 self.fail(kind, cycle, f"{file} holds generation {state[1]}, expected one of "
-                                       f"{sorted(g for g in allowed.get(subject, set()) if g is not None)}")
+                                       f"{sorted(g for g in options if g is not None)}")
 
     # --- the driver ----------------------------------------------------------------------------
 
@@ -93,7 +94,9 @@ class Harness:
             os.makedirs(os.path.join(root, "data", "norbix"))
             with open(os.path.join(root, "data", "norbix", "api.ini"), "w") as seed:
                 seed.write("[General]\nEnabled=false\nURL=ws://127.0.0.1:1/api/v1/ws\n")
-            on_disk = {}  # subject -> generation found after the last kill
+            with open(os.path.join(root, "data", "norbix", "keyboard.ini"), "w") as seed:
+                seed.write("[General]\nSensetivity=0.5\n")
+            on_disk = {}  # (subject, file) -> generation found after the last kill
             generation = 1
             for cycle in range(1, count + 1):
                 process = subprocess.Popen([self.driver, "write", str(generation)], env=self.environment(root),
@@ -111,17 +114,20 @@ class Harness:
                         generation = max(generation, int(words[2]) + 1)
                         if words[0] == "DONE":
                             self.writes["driver"] += 1
+                found = self.check(root)
                 allowed = {}
-                for subject in set(on_disk) | set(begun):
-                    options = {done[subject]} if subject in done else {on_disk.get(subject)}
+                for key in found:
+                    subject = key[0]
+                    options = {done[subject]} if subject in done else {on_disk.get(key)}
                     if subject in begun and begun[subject] != done.get(subject):
                         options.add(begun[subject])
-                    allowed[subject] = options
-                found = self.check(root)
+                    allowed[key] = options
+                if os.environ.get("POWERCUT_DEBUG"):
+                    print(cycle, "begun", begun, "done", done, "on_disk", on_disk, "found", found, flush=True)
                 self.judge("driver", cycle, found, allowed, {s for s, _ in found})
-                for (subject, _), state in found.items():
+                for key, state in found.items():
                     if state[0] == "GEN":
-                        on_disk[subject] = state[1]
+                        on_disk[key] = state[1]
 
     # --- the shell -----------------------------------------------------------------------------
 
@@ -150,7 +156,7 @@ class Harness:
                 for cycle in range(1, count + 1):
                     acked, sent, generation = await self.shell_cycle(root, sessions, generation)
                     self.kills["shell"] += 1
-                    allowed = {"catalogue": {acked if acked is not None else on_disk, sent}}
+                    allowed = {("catalogue", "connections.json"): {acked if acked is not None else on_disk, sent}}
                     found = await self.check_async(root)
                     self.judge("shell", cycle, found, allowed, {"catalogue"})
                     state = found.get(("catalogue", "connections.json"))
