@@ -170,6 +170,7 @@ class Soak:
             try:
                 await websocket.send(text)
             except websockets.ConnectionClosed:
+                self.pending.pop(ident, None)  # never left: the session was being dropped
                 continue
             self.sent += 1
             self.malformed += ident is None
