@@ -1477,7 +1477,7 @@
     <message>
         <location line="+10"/>
         <source>Refresh rate (Hz)</source>
-        <translation>Fréquence (Hz)</translation>
+        <translation>Fréquence de rafraîchissement (Hz)</translation>
     </message>
     <message>
         <location line="+7"/>
