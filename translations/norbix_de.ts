@@ -214,6 +214,39 @@
     </message>
 </context>
 <context>
+    <name>AddLayoutDialog</name>
+    <message>
+        <location filename="../qml/vorplex/AddLayoutDialog.qml" line="+16"/>
+        <source>Add keyboard layouts</source>
+        <translation>Tastaturbelegungen hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Language or country</source>
+        <translation>Sprache oder Land</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Loading info...</source>
+        <translation>Informationen werden geladen...</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The list of keyboard layouts could not be read.</source>
+        <translation>Die Liste der Tastaturbelegungen konnte nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
     <name>AddPuttyConnection</name>
     <message>
         <location filename="../qml/vorplex/AddPuttyConnection.qml" line="+26"/>
@@ -1154,6 +1187,609 @@
     </message>
 </context>
 <context>
+    <name>DateTimePage</name>
+    <message>
+        <location filename="../qml/vorplex/DateTimePage.qml" line="+68"/>
+        <source>Enter a host name or address such as pool.ntp.org.</source>
+        <translation>Geben Sie einen Hostnamen oder eine Adresse ein, z. B. pool.ntp.org.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Choose a time zone.</source>
+        <translation>Wählen Sie eine Zeitzone.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Date and time settings applied.</source>
+        <translation>Datum und Uhrzeit übernommen.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Date and time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Without a time server the clock keeps the date and time set here.</source>
+        <translation>Ohne Zeitserver behält die Uhr das hier eingestellte Datum und die Uhrzeit.</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Previous month</source>
+        <translation>Vorheriger Monat</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Next month</source>
+        <translation>Nächster Monat</translation>
+    </message>
+    <message>
+        <location line="+86"/>
+        <source>Clock format</source>
+        <translation>Uhrzeitformat</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>12-hour</source>
+        <translation>12 Stunden</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>24-hour</source>
+        <translation>24 Stunden</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Hour</source>
+        <translation>Stunde</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>AM</source>
+        <translation>AM</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PM</source>
+        <translation>PM</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Time zone</source>
+        <translation>Zeitzone</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Choose a time zone</source>
+        <translation>Zeitzone wählen</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Time server (NTP)</source>
+        <translation>Zeitserver (NTP)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Leave empty to set the clock by hand.</source>
+        <translation>Leer lassen, um die Uhr von Hand zu stellen.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>APPLY</source>
+        <translation>ÜBERNEHMEN</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosisPage</name>
+    <message>
+        <location filename="../qml/vorplex/DiagnosisPage.qml" line="+18"/>
+        <source>Enter a host name or address.</source>
+        <translation>Geben Sie einen Hostnamen oder eine Adresse ein.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Enter a number of packages from 1.</source>
+        <translation>Geben Sie eine Paketanzahl ab 1 ein.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Enter a length from 0 to 65507 bytes.</source>
+        <translation>Geben Sie eine Länge von 0 bis 65507 Byte ein.</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Ping</source>
+        <translation>Ping</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Sends echo requests to a host and shows its answers.</source>
+        <translation>Sendet Echo-Anfragen an einen Host und zeigt seine Antworten.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Host</source>
+        <translation>Host</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Keep sending packages:</source>
+        <translation>Pakete fortlaufend senden:</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Send only:</source>
+        <translation>Nur senden:</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Number of packages</source>
+        <translation>Anzahl der Pakete</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Packet length (bytes)</source>
+        <translation>Paketgröße (Byte)</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>The answers appear here.</source>
+        <translation>Die Antworten erscheinen hier.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplaysPage</name>
+    <message>
+        <location filename="../qml/vorplex/DisplaysPage.qml" line="+12"/>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Inverted Landscape</source>
+        <translation>Querformat (gedreht)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Left Portrait</source>
+        <translation>Hochformat links</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Right Portrait</source>
+        <translation>Hochformat rechts</translation>
+    </message>
+    <message>
+        <location line="+54"/>
+        <source>Choose a resolution and a refresh rate first.</source>
+        <translation>Wählen Sie zuerst eine Auflösung und eine Bildwiederholrate.</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>The previous display settings are back.</source>
+        <translation>Die vorherigen Anzeigeeinstellungen sind wiederhergestellt.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Display settings kept.</source>
+        <translation>Anzeigeeinstellungen beibehalten.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Arrangement</source>
+        <translation>Anordnung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Displays from left to right. Select one to change its settings.</source>
+        <translation>Bildschirme von links nach rechts. Wählen Sie einen aus, um seine Einstellungen zu ändern.</translation>
+    </message>
+    <message>
+        <location line="+74"/>
+        <source>Primary</source>
+        <translation>Primär</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>No display found</source>
+        <translation>Kein Bildschirm gefunden</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Move left</source>
+        <translation>Nach links</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Move right</source>
+        <translation>Nach rechts</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Make primary</source>
+        <translation>Als primär festlegen</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>IDENTIFY SCREENS</source>
+        <translation>BILDSCHIRME IDENTIFIZIEREN</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Several displays</source>
+        <translation>Mehrere Bildschirme</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Extend the desktop across the displays, or show the same picture on each.</source>
+        <translation>Die Arbeitsfläche über die Bildschirme erweitern oder auf jedem dasselbe Bild zeigen.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Extend</source>
+        <translation>Erweitern</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Mirror</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Display</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Resolutions are listed from the smallest to the largest.</source>
+        <translation>Die Auflösungen sind von der kleinsten zur größten aufgeführt.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Refresh rate (Hz)</source>
+        <translation>Bildwiederholrate (Hz)</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>APPLY</source>
+        <translation>ÜBERNEHMEN</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Displays reset to their default size.</source>
+        <translation>Bildschirme auf ihre Standardgröße zurückgesetzt.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Keep these settings?</source>
+        <translation>Diese Einstellungen beibehalten?</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+1"/>
+        <source>The previous settings come back in %n second(s).</source>
+        <translation>
+            <numerusform>Die vorherigen Einstellungen werden in %n Sekunde wiederhergestellt.</numerusform>
+            <numerusform>Die vorherigen Einstellungen werden in %n Sekunden wiederhergestellt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Keep settings</source>
+        <translation>Beibehalten</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Revert</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+</context>
+<context>
+    <name>Dot1xPage</name>
+    <message>
+        <location filename="../qml/vorplex/Dot1xPage.qml" line="+11"/>
+        <location line="+39"/>
+        <location line="+12"/>
+        <source>MD5</source>
+        <translation>MD5</translation>
+    </message>
+    <message>
+        <location line="-51"/>
+        <source>TLS</source>
+        <translation>TLS</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PWD</source>
+        <translation>PWD</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>FAST</source>
+        <translation>FAST</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Tunneled TLS</source>
+        <translation>Getunneltes TLS</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Protected EAP (PEAP)</source>
+        <translation>Geschütztes EAP (PEAP)</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <location line="+14"/>
+        <location line="+10"/>
+        <location line="+11"/>
+        <location line="+11"/>
+        <source>Username</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <location line="-45"/>
+        <location line="+14"/>
+        <location line="+10"/>
+        <location line="+11"/>
+        <location line="+11"/>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <location line="-43"/>
+        <source>Identity</source>
+        <translation>Identität</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+24"/>
+        <location line="+11"/>
+        <source>Domain</source>
+        <translation>Domäne</translation>
+    </message>
+    <message>
+        <location line="-34"/>
+        <location line="+24"/>
+        <location line="+11"/>
+        <source>CA certificate</source>
+        <translation>CA-Zertifikat</translation>
+    </message>
+    <message>
+        <location line="-34"/>
+        <location line="+24"/>
+        <source>CA certificate password</source>
+        <translation>Passwort des CA-Zertifikats</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <source>User certificate</source>
+        <translation>Benutzerzertifikat</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User certificate password</source>
+        <translation>Passwort des Benutzerzertifikats</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User private key</source>
+        <translation>Privater Schlüssel des Benutzers</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User key password</source>
+        <translation>Passwort des Benutzerschlüssels</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+10"/>
+        <location line="+11"/>
+        <source>Anonymous identity</source>
+        <translation>Anonyme Identität</translation>
+    </message>
+    <message>
+        <location line="-20"/>
+        <source>PAC provisioning</source>
+        <translation>PAC-Bereitstellung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Anonymous</source>
+        <translation>Anonym</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Authenticated</source>
+        <translation>Authentifiziert</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Both</source>
+        <translation>Beide</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PAC file</source>
+        <translation>PAC-Datei</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+10"/>
+        <location line="+12"/>
+        <source>Inner authentication</source>
+        <translation>Innere Authentifizierung</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <location line="+10"/>
+        <location line="+12"/>
+        <source>GTC</source>
+        <translation>GTC</translation>
+    </message>
+    <message>
+        <location line="-22"/>
+        <location line="+10"/>
+        <location line="+12"/>
+        <source>MSCHAPv2</source>
+        <translation>MSCHAPv2</translation>
+    </message>
+    <message>
+        <location line="-12"/>
+        <source>PAP</source>
+        <translation>PAP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MSCHAP</source>
+        <translation>MSCHAP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MSCHAPv2 (no EAP)</source>
+        <translation>MSCHAPv2 (ohne EAP)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CHAP</source>
+        <translation>CHAP</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>PEAP version</source>
+        <translation>PEAP-Version</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Version 0</source>
+        <translation>Version 0</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Version 1</source>
+        <translation>Version 1</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Writing the 802.1X settings…</source>
+        <translation>802.1X-Einstellungen werden geschrieben…</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Switching 802.1X off…</source>
+        <translation>802.1X wird ausgeschaltet…</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>802.1X is on with %1.</source>
+        <translation>802.1X ist mit %1 aktiv.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>802.1X is off.</source>
+        <translation>802.1X ist aus.</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>802.1X authentication</source>
+        <translation>802.1X-Authentifizierung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The wired connection authenticates before it is let onto the network.</source>
+        <translation>Die kabelgebundene Verbindung authentifiziert sich, bevor sie ins Netzwerk gelassen wird.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Off: the wired connection does not authenticate.</source>
+        <translation>Aus: Die kabelgebundene Verbindung authentifiziert sich nicht.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ask your network administrator which method and certificates your network uses.</source>
+        <translation>Fragen Sie Ihren Netzwerkadministrator, welche Methode und welche Zertifikate Ihr Netzwerk verwendet.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Authentication</source>
+        <translation>Authentifizierung</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>No file chosen</source>
+        <translation>Keine Datei gewählt</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Browse…</source>
+        <translation>Durchsuchen…</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+</context>
+<context>
     <name>ExportSettingsPage</name>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="+33"/>
@@ -1238,6 +1874,44 @@
     </message>
 </context>
 <context>
+    <name>HostnamePage</name>
+    <message>
+        <location filename="../qml/vorplex/HostnamePage.qml" line="+22"/>
+        <source>Use 1 to 63 letters, digits and hyphens, not starting or ending with a hyphen.</source>
+        <translation>Verwenden Sie 1 bis 63 Buchstaben, Ziffern und Bindestriche, nicht am Anfang oder Ende ein Bindestrich.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Setting the computer name…</source>
+        <translation>Computername wird festgelegt…</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Computer name set to %1.</source>
+        <translation>Computername auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Computer name: </source>
+        <translation>Computername: </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The name of this terminal on the network and on the management server. Leave the field empty to use the name made from the network adapter.</source>
+        <translation>Der Name dieses Terminals im Netzwerk und auf dem Verwaltungsserver. Lassen Sie das Feld leer, um den aus dem Netzwerkadapter gebildeten Namen zu verwenden.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Computer name</source>
+        <translation>Computername</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+</context>
+<context>
     <name>ImportSettingsPage</name>
     <message numerus="yes">
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="+33"/>
@@ -1305,6 +1979,92 @@
         <location line="+1"/>
         <source>The chosen settings of this terminal are replaced by the saved ones.</source>
         <translation>Die gewählten Einstellungen dieses Terminals werden durch die gespeicherten ersetzt.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardPage</name>
+    <message>
+        <location filename="../qml/vorplex/KeyboardPage.qml" line="+25"/>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <source>Current layout</source>
+        <translation>Aktuelle Belegung</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Switching layouts</source>
+        <translation>Belegung wechseln</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Press Alt+Shift to switch to the next layout.</source>
+        <translation>Drücken Sie Alt+Umschalt, um zur nächsten Belegung zu wechseln.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Layouts</source>
+        <translation>Belegungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The preferred layout is active after power-on.</source>
+        <translation>Die bevorzugte Belegung ist nach dem Einschalten aktiv.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Add layouts</source>
+        <translation>Belegungen hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>Preferred</source>
+        <translation>Bevorzugt</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Make preferred</source>
+        <translation>Als bevorzugt festlegen</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>No layouts chosen</source>
+        <translation>Keine Belegungen gewählt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The keyboard uses the system&apos;s layout. Add the layouts you type with.</source>
+        <translation>Die Tastatur verwendet die Belegung des Systems. Fügen Sie die Belegungen hinzu, mit denen Sie schreiben.</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePage</name>
+    <message>
+        <location filename="../qml/vorplex/LanguagePage.qml" line="+20"/>
+        <source>Display language</source>
+        <translation>Anzeigesprache</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The language of this terminal&apos;s screens. Sessions keep their own language.</source>
+        <translation>Die Sprache der Bildschirme dieses Terminals. Sitzungen behalten ihre eigene Sprache.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Language changed.</source>
+        <translation>Sprache geändert.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The %1 translation could not be loaded; the language was not changed.</source>
+        <translation>Die Übersetzung %1 konnte nicht geladen werden; die Sprache wurde nicht geändert.</translation>
     </message>
 </context>
 <context>
@@ -1687,11 +2447,82 @@
     </message>
 </context>
 <context>
+    <name>MousePage</name>
+    <message>
+        <location filename="../qml/vorplex/MousePage.qml" line="+29"/>
+        <source>Pointer speed</source>
+        <translation>Zeigergeschwindigkeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>How far the pointer moves for a movement of the mouse or touchpad.</source>
+        <translation>Wie weit sich der Zeiger bei einer Bewegung der Maus oder des Touchpads bewegt.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No mouse or touchpad with an adjustable speed is connected.</source>
+        <translation>Keine Maus und kein Touchpad mit einstellbarer Geschwindigkeit angeschlossen.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>SLOW</source>
+        <translation>LANGSAM</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>FAST</source>
+        <translation>SCHNELL</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Primary button</source>
+        <translation>Primäre Taste</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The button that selects and opens; the other one opens menus.</source>
+        <translation>Die Taste zum Auswählen und Öffnen; die andere öffnet Menüs.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Left button (right-handed)</source>
+        <translation>Linke Taste (Rechtshänder)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Right button (left-handed)</source>
+        <translation>Rechte Taste (Linkshänder)</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Double-click time</source>
+        <translation>Doppelklick-Zeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The longest pause between the two clicks of a double-click.</source>
+        <translation>Die längste Pause zwischen den beiden Klicks eines Doppelklicks.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
     <name>NavItem</name>
     <message>
         <location filename="../qml/custom/NorbixUi/NavItem.qml" line="+21"/>
         <source>%1 (locked)</source>
         <translation>%1 (gesperrt)</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkManager</name>
+    <message>
+        <location filename="../src/settings/NetworkManager.cpp" line="+303"/>
+        <source>Browse certificate</source>
+        <translation>Zertifikat auswählen</translation>
     </message>
 </context>
 <context>
@@ -1718,6 +2549,310 @@
         <location line="+1"/>
         <source>These settings arrive with a later software update. Until then the terminal keeps its current configuration, and nothing here needs your attention.</source>
         <translation>Diese Einstellungen kommen mit einem späteren Software-Update. Bis dahin behält das Terminal seine aktuelle Konfiguration, und hier ist nichts zu tun.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerActionsPage</name>
+    <message>
+        <location filename="../qml/vorplex/PowerActionsPage.qml" line="+20"/>
+        <location line="+4"/>
+        <location line="+20"/>
+        <location line="+2"/>
+        <source>Shut down</source>
+        <translation>Herunterfahren</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <source>Ends every session and switches the terminal off.</source>
+        <translation>Beendet alle Sitzungen und schaltet das Terminal aus.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+4"/>
+        <location line="+19"/>
+        <location line="+2"/>
+        <source>Restart</source>
+        <translation>Neu starten</translation>
+    </message>
+    <message>
+        <location line="-24"/>
+        <source>Ends every session and starts the terminal again.</source>
+        <translation>Beendet alle Sitzungen und startet das Terminal neu.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Shut the terminal down now? Open sessions end and unsaved work in them is lost.</source>
+        <translation>Das Terminal jetzt herunterfahren? Offene Sitzungen werden beendet und nicht gespeicherte Arbeit darin geht verloren.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Restart the terminal now? Open sessions end and unsaved work in them is lost.</source>
+        <translation>Das Terminal jetzt neu starten? Offene Sitzungen werden beendet und nicht gespeicherte Arbeit darin geht verloren.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerPage</name>
+    <message>
+        <location filename="../qml/vorplex/PowerPage.qml" line="+19"/>
+        <source>Power saving settings applied.</source>
+        <translation>Energiespareinstellungen übernommen.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Power saving</source>
+        <translation>Energiesparen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Without keyboard or mouse input, the screen turns off and later the terminal goes to sleep.</source>
+        <translation>Ohne Eingaben über Tastatur oder Maus schaltet sich der Bildschirm aus und später geht das Terminal in den Ruhezustand.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Turn off the screen after</source>
+        <translation>Bildschirm ausschalten nach</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No turn off</source>
+        <translation>Nie ausschalten</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>1 minute</source>
+        <translation>1 Minute</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+7"/>
+        <source>5 minutes</source>
+        <translation>5 Minuten</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <location line="+7"/>
+        <source>30 minutes</source>
+        <translation>30 Minuten</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <location line="+7"/>
+        <source>1 hour</source>
+        <translation>1 Stunde</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Put the terminal to sleep after</source>
+        <translation>Terminal in Ruhezustand versetzen nach</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No sleep</source>
+        <translation>Kein Ruhezustand</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>6 hours</source>
+        <translation>6 Stunden</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>APPLY</source>
+        <translation>ÜBERNEHMEN</translation>
+    </message>
+</context>
+<context>
+    <name>PrintersBackend</name>
+    <message>
+        <location filename="../src/settings/PrintersBackend.cpp" line="+72"/>
+        <source>The printer could not be added.</source>
+        <translation>Der Drucker konnte nicht hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Choose the printer&apos;s device.</source>
+        <translation>Wählen Sie das Gerät des Druckers.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Choose a driver.</source>
+        <translation>Wählen Sie einen Treiber.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintersPage</name>
+    <message>
+        <location filename="../qml/vorplex/PrintersPage.qml" line="+35"/>
+        <location line="+14"/>
+        <source>Printer %1 added.</source>
+        <translation>Drucker %1 hinzugefügt.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Printing in sessions</source>
+        <translation>Drucken in Sitzungen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remote sessions can print on this terminal&apos;s printers.</source>
+        <translation>Entfernte Sitzungen können auf den Druckern dieses Terminals drucken.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Printers</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The default printer is the one sessions print to unless told otherwise.</source>
+        <translation>Der Standarddrucker ist der, auf dem Sitzungen drucken, sofern nichts anderes angegeben ist.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Make default</source>
+        <translation>Als Standard festlegen</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+114"/>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <location line="-99"/>
+        <source>No printers</source>
+        <translation>Keine Drucker</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add a network printer by its address, or a printer connected by USB.</source>
+        <translation>Fügen Sie einen Netzwerkdrucker über seine Adresse oder einen per USB angeschlossenen Drucker hinzu.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Add a network printer</source>
+        <translation>Netzwerkdrucker hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Printers that support IPP Everywhere (most printers made since 2012) need no driver.</source>
+        <translation>Drucker, die IPP Everywhere unterstützen (die meisten Drucker seit 2012), brauchen keinen Treiber.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+66"/>
+        <source>Printer name</source>
+        <translation>Druckername</translation>
+    </message>
+    <message>
+        <location line="-65"/>
+        <source>For example Office_2nd_floor</source>
+        <translation>Zum Beispiel Buero_2_Stock</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+65"/>
+        <source>Letters, digits, _ . - + @; no spaces.</source>
+        <translation>Buchstaben, Ziffern, _ . - + @; keine Leerzeichen.</translation>
+    </message>
+    <message>
+        <location line="-57"/>
+        <source>Host name or address</source>
+        <translation>Hostname oder Adresse</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+55"/>
+        <source>Add printer</source>
+        <translation>Drucker hinzufügen</translation>
+    </message>
+    <message>
+        <location line="-48"/>
+        <source>Add a USB printer</source>
+        <translation>USB-Drucker hinzufügen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connect the printer, then look for it and choose its driver.</source>
+        <translation>Schließen Sie den Drucker an, suchen Sie ihn dann und wählen Sie seinen Treiber.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Look for USB printers</source>
+        <translation>Nach USB-Druckern suchen</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No USB printer found</source>
+        <translation>Kein USB-Drucker gefunden</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Look again</source>
+        <translation>Erneut suchen</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Driver</source>
+        <translation>Treiber</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No drivers found</source>
+        <translation>Keine Treiber gefunden</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Delete printer</source>
+        <translation>Drucker löschen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Delete the printer %1? Sessions can no longer print to it.</source>
+        <translation>Den Drucker %1 löschen? Sitzungen können dann nicht mehr darauf drucken.</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <location filename="../src/settings/PrinterParsers.cpp" line="+42"/>
+        <source>Enter a printer name.</source>
+        <translation>Geben Sie einen Druckernamen ein.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A printer name has at most 127 characters.</source>
+        <translation>Ein Druckername hat höchstens 127 Zeichen.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>A printer name may only contain letters, digits and _ . - + @ (no spaces, &quot;/&quot; or &quot;#&quot;).</source>
+        <translation>Ein Druckername darf nur Buchstaben, Ziffern und _ . - + @ enthalten (keine Leerzeichen, kein „/“ oder „#“).</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Enter the printer&apos;s host name or address.</source>
+        <translation>Geben Sie den Hostnamen oder die Adresse des Druckers ein.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a host name or address.</source>
+        <translation>„%1“ ist kein Hostname und keine Adresse.</translation>
     </message>
 </context>
 <context>
@@ -1792,6 +2927,23 @@
     </message>
 </context>
 <context>
+    <name>ScreenListModel</name>
+    <message>
+        <location filename="../src/settings/ScreenListModel.cpp" line="+76"/>
+        <source>Display %1</source>
+        <translation>Bildschirm %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScreensBackend</name>
+    <message>
+        <location filename="../src/settings/ScreensBackend.cpp" line="+139"/>
+        <location line="+5"/>
+        <source>Display %1</source>
+        <translation>Bildschirm %1</translation>
+    </message>
+</context>
+<context>
     <name>SectionCatalog</name>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="+9"/>
@@ -1815,8 +2967,8 @@
     </message>
     <message>
         <location line="+1"/>
-        <source>Ethernet addressing, DNS and proxy.</source>
-        <translation>Ethernet-Adressen, DNS und Proxy.</translation>
+        <source>Ethernet addressing and DNS servers.</source>
+        <translation>Ethernet-Adressierung und DNS-Server.</translation>
     </message>
     <message>
         <location line="+1"/>
@@ -1847,6 +2999,26 @@
         <location line="+1"/>
         <source>The name this terminal uses on the network.</source>
         <translation>Der Name, den dieses Terminal im Netzwerk verwendet.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Network diagnosis</source>
+        <translation>Netzwerkdiagnose</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Check that a host answers over the network.</source>
+        <translation>Prüfen, ob ein Host über das Netzwerk antwortet.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Wi-Fi networks</source>
+        <translation>WLAN-Netzwerke</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Join a wireless network approved by your administrator.</source>
+        <translation>Mit einem vom Administrator freigegebenen Funknetzwerk verbinden.</translation>
     </message>
     <message>
         <location line="+4"/>
@@ -1957,6 +3129,16 @@
         <location line="+1"/>
         <source>Access to USB drives on this terminal and in sessions.</source>
         <translation>Zugriff auf USB-Laufwerke an diesem Terminal und in Sitzungen.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shut down &amp; restart</source>
+        <translation>Herunterfahren &amp; Neustart</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Switch the terminal off or start it again.</source>
+        <translation>Das Terminal ausschalten oder neu starten.</translation>
     </message>
     <message>
         <location line="+4"/>
@@ -2156,6 +3338,75 @@
     </message>
 </context>
 <context>
+    <name>SoundPage</name>
+    <message>
+        <location filename="../qml/vorplex/SoundPage.qml" line="+23"/>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Where the terminal and its sessions play sound.</source>
+        <translation>Wo das Terminal und seine Sitzungen Ton wiedergeben.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Output device</source>
+        <translation>Ausgabegerät</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No output device found</source>
+        <translation>Kein Ausgabegerät gefunden</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <location line="+38"/>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <location line="-28"/>
+        <source>Test sound</source>
+        <translation>Ton testen</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The recording level of the microphone.</source>
+        <translation>Der Aufnahmepegel des Mikrofons.</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Test microphone</source>
+        <translation>Mikrofon testen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Recording for three seconds, then playing it back...</source>
+        <translation>Drei Sekunden werden aufgenommen und dann wiedergegeben...</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Done. Did you hear yourself?</source>
+        <translation>Fertig. Haben Sie sich gehört?</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Speak after pressing: three seconds are recorded and played back.</source>
+        <translation>Sprechen Sie nach dem Drücken: Drei Sekunden werden aufgenommen und wiedergegeben.</translation>
+    </message>
+</context>
+<context>
     <name>TeamsPopup</name>
     <message>
         <location filename="../qml/vorplex/TeamsPopup.qml" line="+33"/>
@@ -2351,6 +3602,54 @@
     </message>
 </context>
 <context>
+    <name>UsbStoragePage</name>
+    <message>
+        <location filename="../qml/vorplex/UsbStoragePage.qml" line="+32"/>
+        <source>USB storage</source>
+        <translation>USB-Speicher</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB drives plugged into this terminal are opened and can be used in sessions.</source>
+        <translation>An dieses Terminal angeschlossene USB-Laufwerke werden geöffnet und können in Sitzungen verwendet werden.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>USB storage is on.</source>
+        <translation>USB-Speicher ist eingeschaltet.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>USB storage is off.</source>
+        <translation>USB-Speicher ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>USB devices</source>
+        <translation>USB-Geräte</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Everything connected to this terminal&apos;s USB ports.</source>
+        <translation>Alles, was an die USB-Anschlüsse dieses Terminals angeschlossen ist.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Unnamed device</source>
+        <translation>Unbenanntes Gerät</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>No USB devices found</source>
+        <translation>Keine USB-Geräte gefunden</translation>
+    </message>
+</context>
+<context>
     <name>VMWareConnectDialog</name>
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="+33"/>
@@ -2471,6 +3770,456 @@
         <location line="+1"/>
         <source>Optional: the desktop pool to open</source>
         <translation>Optional: der zu öffnende Desktop-Pool</translation>
+    </message>
+</context>
+<context>
+    <name>WallpaperPage</name>
+    <message>
+        <location filename="../qml/vorplex/WallpaperPage.qml" line="+26"/>
+        <source>Wallpaper set to %1.</source>
+        <translation>Hintergrundbild auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Current background</source>
+        <translation>Aktueller Hintergrund</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The built-in background</source>
+        <translation>Der eingebaute Hintergrund</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Use the built-in background</source>
+        <translation>Eingebauten Hintergrund verwenden</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Pictures on USB drives</source>
+        <translation>Bilder auf USB-Laufwerken</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PNG and JPEG images on the drives connected to this terminal. The picture is copied to the terminal.</source>
+        <translation>PNG- und JPEG-Bilder auf den an dieses Terminal angeschlossenen Laufwerken. Das Bild wird auf das Terminal kopiert.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>%1 (not an image)</source>
+        <translation>%1 (kein Bild)</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>No pictures found</source>
+        <translation>Keine Bilder gefunden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive with PNG or JPEG pictures, then refresh.</source>
+        <translation>Schließen Sie ein USB-Laufwerk mit PNG- oder JPEG-Bildern an und aktualisieren Sie dann.</translation>
+    </message>
+</context>
+<context>
+    <name>WallpapersManager</name>
+    <message>
+        <location filename="../src/settings/WallpapersManager.cpp" line="+78"/>
+        <source>The file %1 cannot be read.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 is not a PNG or JPEG image.</source>
+        <translation>%1 ist kein PNG- oder JPEG-Bild.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The image could not be copied to the terminal.</source>
+        <translation>Das Bild konnte nicht auf das Terminal kopiert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>WifiPage</name>
+    <message>
+        <location filename="../qml/vorplex/WifiPage.qml" line="+29"/>
+        <location line="+214"/>
+        <source>Connecting to %1…</source>
+        <translation>Verbindung mit %1 wird hergestellt…</translation>
+    </message>
+    <message>
+        <location line="-179"/>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The radio is on.</source>
+        <translation>Das Funkmodul ist eingeschaltet.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>The radio is off.</source>
+        <translation>Das Funkmodul ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This terminal has no Wi-Fi adapter.</source>
+        <translation>Dieses Terminal hat keinen WLAN-Adapter.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Switching the radio on…</source>
+        <translation>Funkmodul wird eingeschaltet…</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Switching the radio off…</source>
+        <translation>Funkmodul wird ausgeschaltet…</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Networks in range</source>
+        <translation>Netzwerke in Reichweite</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Hidden networks are listed under the address of their access point.</source>
+        <translation>Verborgene Netzwerke werden unter der Adresse ihres Zugangspunkts aufgeführt.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>No networks found</source>
+        <translation>Keine Netzwerke gefunden</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Wi-Fi is off</source>
+        <translation>WLAN ist aus</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The list is refreshed every few seconds.</source>
+        <translation>Die Liste wird alle paar Sekunden aktualisiert.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Switch the radio on to see networks in range.</source>
+        <translation>Schalten Sie das Funkmodul ein, um Netzwerke in Reichweite zu sehen.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Signal %1 %</source>
+        <translation>Signal %1&#xa0;%</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Secured</source>
+        <translation>Gesichert</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Open</source>
+        <translation>Offen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+115"/>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <location line="-110"/>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Disconnecting from %1…</source>
+        <translation>Verbindung zu %1 wird getrennt…</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Saved networks</source>
+        <translation>Gespeicherte Netzwerke</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Networks shown for users appear on the user&apos;s Wi-Fi list; one network can connect by itself at start.</source>
+        <translation>Für Benutzer angezeigte Netzwerke erscheinen in der WLAN-Liste des Benutzers; ein Netzwerk kann sich beim Start selbst verbinden.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>AUTO CONNECT</source>
+        <translation>AUTOM. VERBINDEN</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>SHOW FOR USER</source>
+        <translation>FÜR BENUTZER</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>OPTIONS</source>
+        <translation>OPTIONEN</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>No saved networks</source>
+        <translation>Keine gespeicherten Netzwerke</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Networks this terminal has joined are kept here.</source>
+        <translation>Netzwerke, denen dieses Terminal beigetreten ist, werden hier gespeichert.</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Connect to %1 at start</source>
+        <translation>Beim Start mit %1 verbinden</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Show %1 for users</source>
+        <translation>%1 für Benutzer anzeigen</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Forget %1</source>
+        <translation>%1 vergessen</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Connect to %1</source>
+        <translation>Mit %1 verbinden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the password of the network %1.</source>
+        <translation>Geben Sie das Passwort des Netzwerks %1 ein.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Forget network</source>
+        <translation>Netzwerk vergessen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Forget %1? The terminal will need the password again to join it.</source>
+        <translation>%1 vergessen? Das Terminal braucht dann erneut das Passwort, um sich zu verbinden.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Forget</source>
+        <translation>Vergessen</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Forgetting %1…</source>
+        <translation>%1 wird vergessen…</translation>
+    </message>
+</context>
+<context>
+    <name>WifiUserPage</name>
+    <message>
+        <location filename="../qml/vorplex/WifiUserPage.qml" line="+32"/>
+        <source>Available networks</source>
+        <translation>Verfügbare Netzwerke</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Networks approved by your administrator that are in range.</source>
+        <translation>Vom Administrator freigegebene Netzwerke in Reichweite.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>No approved network in range</source>
+        <translation>Kein freigegebenes Netzwerk in Reichweite</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ask your administrator to approve a network for users.</source>
+        <translation>Bitten Sie Ihren Administrator, ein Netzwerk für Benutzer freizugeben.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Not connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Disconnecting from %1…</source>
+        <translation>Verbindung zu %1 wird getrennt…</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Connecting to %1…</source>
+        <translation>Verbindung mit %1 wird hergestellt…</translation>
+    </message>
+</context>
+<context>
+    <name>WiredNetworkPage</name>
+    <message>
+        <location filename="../qml/vorplex/WiredNetworkPage.qml" line="+27"/>
+        <location line="+1"/>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Enter an address such as 192.168.1.20.</source>
+        <translation>Geben Sie eine Adresse wie 192.168.1.20 ein.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter a mask such as 255.255.255.0.</source>
+        <translation>Geben Sie eine Maske wie 255.255.255.0 ein.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Enter an address, or leave it empty.</source>
+        <translation>Geben Sie eine Adresse ein oder lassen Sie das Feld leer.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Applying the settings of %1…</source>
+        <translation>Einstellungen von %1 werden übernommen…</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Settings applied. The interface now reports the values shown.</source>
+        <translation>Einstellungen übernommen. Die Schnittstelle meldet jetzt die angezeigten Werte.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <location line="+14"/>
+        <source>Interface</source>
+        <translation>Schnittstelle</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>The network adapter to configure and what it reports now.</source>
+        <translation>Der zu konfigurierende Netzwerkadapter und was er derzeit meldet.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>No network interface found</source>
+        <translation>Keine Netzwerkschnittstelle gefunden</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+26"/>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <location line="+26"/>
+        <source>Subnet mask</source>
+        <translation>Subnetzmaske</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <location line="+26"/>
+        <source>Gateway</source>
+        <translation>Gateway</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <source>DNS servers</source>
+        <translation>DNS-Server</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>IPv4 addressing</source>
+        <translation>IPv4-Adressierung</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic takes address, gateway and DNS from the network&apos;s DHCP server.</source>
+        <translation>„Automatisch“ bezieht Adresse, Gateway und DNS vom DHCP-Server des Netzwerks.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Automatic (DHCP)</source>
+        <translation>Automatisch (DHCP)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Manual</source>
+        <translation>Manuell</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>DNS server 1</source>
+        <translation>DNS-Server 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DNS server 2</source>
+        <translation>DNS-Server 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DNS server 3</source>
+        <translation>DNS-Server 3</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
     </message>
 </context>
 </TS>

@@ -214,6 +214,39 @@
     </message>
 </context>
 <context>
+    <name>AddLayoutDialog</name>
+    <message>
+        <location filename="../qml/vorplex/AddLayoutDialog.qml" line="+16"/>
+        <source>Add keyboard layouts</source>
+        <translation>Ajouter des dispositions de clavier</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Language or country</source>
+        <translation>Langue ou pays</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Loading info...</source>
+        <translation>Chargement des informations...</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The list of keyboard layouts could not be read.</source>
+        <translation>Impossible de lire la liste des dispositions de clavier.</translation>
+    </message>
+</context>
+<context>
     <name>AddPuttyConnection</name>
     <message>
         <location filename="../qml/vorplex/AddPuttyConnection.qml" line="+26"/>
@@ -1154,6 +1187,609 @@
     </message>
 </context>
 <context>
+    <name>DateTimePage</name>
+    <message>
+        <location filename="../qml/vorplex/DateTimePage.qml" line="+68"/>
+        <source>Enter a host name or address such as pool.ntp.org.</source>
+        <translation>Saisissez un nom d&apos;hôte ou une adresse, par exemple pool.ntp.org.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Choose a time zone.</source>
+        <translation>Choisissez un fuseau horaire.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Date and time settings applied.</source>
+        <translation>Paramètres de date et d&apos;heure appliqués.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Date and time</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Without a time server the clock keeps the date and time set here.</source>
+        <translation>Sans serveur de temps, l&apos;horloge conserve la date et l&apos;heure réglées ici.</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Previous month</source>
+        <translation>Mois précédent</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Next month</source>
+        <translation>Mois suivant</translation>
+    </message>
+    <message>
+        <location line="+86"/>
+        <source>Clock format</source>
+        <translation>Format de l&apos;heure</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>12-hour</source>
+        <translation>12 heures</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>24-hour</source>
+        <translation>24 heures</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Hour</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>AM</source>
+        <translation>AM</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PM</source>
+        <translation>PM</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Time zone</source>
+        <translation>Fuseau horaire</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Choose a time zone</source>
+        <translation>Choisir un fuseau horaire</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Time server (NTP)</source>
+        <translation>Serveur de temps (NTP)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Leave empty to set the clock by hand.</source>
+        <translation>Laissez vide pour régler l&apos;horloge manuellement.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>APPLY</source>
+        <translation>APPLIQUER</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosisPage</name>
+    <message>
+        <location filename="../qml/vorplex/DiagnosisPage.qml" line="+18"/>
+        <source>Enter a host name or address.</source>
+        <translation>Saisissez un nom d&apos;hôte ou une adresse.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Enter a number of packages from 1.</source>
+        <translation>Saisissez un nombre de paquets à partir de 1.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Enter a length from 0 to 65507 bytes.</source>
+        <translation>Saisissez une longueur de 0 à 65507 octets.</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Ping</source>
+        <translation>Ping</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Sends echo requests to a host and shows its answers.</source>
+        <translation>Envoie des requêtes d&apos;écho à un hôte et affiche ses réponses.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Host</source>
+        <translation>Hôte</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Keep sending packages:</source>
+        <translation>Envoyer en continu&#xa0;:</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Send only:</source>
+        <translation>Envoyer seulement&#xa0;:</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Number of packages</source>
+        <translation>Nombre de paquets</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Packet length (bytes)</source>
+        <translation>Taille des paquets (octets)</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>The answers appear here.</source>
+        <translation>Les réponses s&apos;affichent ici.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplaysPage</name>
+    <message>
+        <location filename="../qml/vorplex/DisplaysPage.qml" line="+12"/>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Inverted Landscape</source>
+        <translation>Paysage (retourné)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Left Portrait</source>
+        <translation>Portrait (gauche)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Right Portrait</source>
+        <translation>Portrait (droite)</translation>
+    </message>
+    <message>
+        <location line="+54"/>
+        <source>Choose a resolution and a refresh rate first.</source>
+        <translation>Choisissez d&apos;abord une résolution et une fréquence de rafraîchissement.</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>The previous display settings are back.</source>
+        <translation>Les paramètres d&apos;affichage précédents sont rétablis.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Display settings kept.</source>
+        <translation>Paramètres d&apos;affichage conservés.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Arrangement</source>
+        <translation>Disposition</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Displays from left to right. Select one to change its settings.</source>
+        <translation>Écrans de gauche à droite. Sélectionnez-en un pour modifier ses paramètres.</translation>
+    </message>
+    <message>
+        <location line="+74"/>
+        <source>Primary</source>
+        <translation>Principal</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>No display found</source>
+        <translation>Aucun écran détecté</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Move left</source>
+        <translation>Vers la gauche</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Move right</source>
+        <translation>Vers la droite</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Make primary</source>
+        <translation>Définir comme principal</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>IDENTIFY SCREENS</source>
+        <translation>IDENTIFIER LES ÉCRANS</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Several displays</source>
+        <translation>Plusieurs écrans</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Extend the desktop across the displays, or show the same picture on each.</source>
+        <translation>Étendre le bureau sur les écrans ou afficher la même image sur chacun.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Extend</source>
+        <translation>Étendre</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Mirror</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Display</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Resolutions are listed from the smallest to the largest.</source>
+        <translation>Les résolutions sont classées de la plus petite à la plus grande.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Refresh rate (Hz)</source>
+        <translation>Fréquence de rafraîchissement (Hz)</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>APPLY</source>
+        <translation>APPLIQUER</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Displays reset to their default size.</source>
+        <translation>Écrans remis à leur taille par défaut.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Keep these settings?</source>
+        <translation>Conserver ces paramètres&#x202f;?</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+1"/>
+        <source>The previous settings come back in %n second(s).</source>
+        <translation>
+            <numerusform>Les paramètres précédents seront rétablis dans %n seconde.</numerusform>
+            <numerusform>Les paramètres précédents seront rétablis dans %n secondes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Keep settings</source>
+        <translation>Conserver</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Revert</source>
+        <translation>Rétablir</translation>
+    </message>
+</context>
+<context>
+    <name>Dot1xPage</name>
+    <message>
+        <location filename="../qml/vorplex/Dot1xPage.qml" line="+11"/>
+        <location line="+39"/>
+        <location line="+12"/>
+        <source>MD5</source>
+        <translation>MD5</translation>
+    </message>
+    <message>
+        <location line="-51"/>
+        <source>TLS</source>
+        <translation>TLS</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PWD</source>
+        <translation>PWD</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>FAST</source>
+        <translation>FAST</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Tunneled TLS</source>
+        <translation>TLS tunnelé</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Protected EAP (PEAP)</source>
+        <translation>EAP protégé (PEAP)</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <location line="+14"/>
+        <location line="+10"/>
+        <location line="+11"/>
+        <location line="+11"/>
+        <source>Username</source>
+        <translation>Nom d&apos;utilisateur</translation>
+    </message>
+    <message>
+        <location line="-45"/>
+        <location line="+14"/>
+        <location line="+10"/>
+        <location line="+11"/>
+        <location line="+11"/>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <location line="-43"/>
+        <source>Identity</source>
+        <translation>Identité</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+24"/>
+        <location line="+11"/>
+        <source>Domain</source>
+        <translation>Domaine</translation>
+    </message>
+    <message>
+        <location line="-34"/>
+        <location line="+24"/>
+        <location line="+11"/>
+        <source>CA certificate</source>
+        <translation>Certificat de l&apos;AC</translation>
+    </message>
+    <message>
+        <location line="-34"/>
+        <location line="+24"/>
+        <source>CA certificate password</source>
+        <translation>Mot de passe du certificat de l&apos;AC</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <source>User certificate</source>
+        <translation>Certificat utilisateur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User certificate password</source>
+        <translation>Mot de passe du certificat utilisateur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User private key</source>
+        <translation>Clé privée de l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User key password</source>
+        <translation>Mot de passe de la clé utilisateur</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+10"/>
+        <location line="+11"/>
+        <source>Anonymous identity</source>
+        <translation>Identité anonyme</translation>
+    </message>
+    <message>
+        <location line="-20"/>
+        <source>PAC provisioning</source>
+        <translation>Provisionnement PAC</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Anonymous</source>
+        <translation>Anonyme</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Authenticated</source>
+        <translation>Authentifié</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Both</source>
+        <translation>Les deux</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PAC file</source>
+        <translation>Fichier PAC</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+10"/>
+        <location line="+12"/>
+        <source>Inner authentication</source>
+        <translation>Authentification interne</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <location line="+10"/>
+        <location line="+12"/>
+        <source>GTC</source>
+        <translation>GTC</translation>
+    </message>
+    <message>
+        <location line="-22"/>
+        <location line="+10"/>
+        <location line="+12"/>
+        <source>MSCHAPv2</source>
+        <translation>MSCHAPv2</translation>
+    </message>
+    <message>
+        <location line="-12"/>
+        <source>PAP</source>
+        <translation>PAP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MSCHAP</source>
+        <translation>MSCHAP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MSCHAPv2 (no EAP)</source>
+        <translation>MSCHAPv2 (sans EAP)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CHAP</source>
+        <translation>CHAP</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>PEAP version</source>
+        <translation>Version de PEAP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Version 0</source>
+        <translation>Version 0</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Version 1</source>
+        <translation>Version 1</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Writing the 802.1X settings…</source>
+        <translation>Enregistrement des paramètres 802.1X…</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Switching 802.1X off…</source>
+        <translation>Désactivation de 802.1X…</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>802.1X is on with %1.</source>
+        <translation>802.1X est activé avec %1.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>802.1X is off.</source>
+        <translation>802.1X est désactivé.</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>802.1X authentication</source>
+        <translation>Authentification 802.1X</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The wired connection authenticates before it is let onto the network.</source>
+        <translation>La connexion filaire s&apos;authentifie avant d&apos;être admise sur le réseau.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Off: the wired connection does not authenticate.</source>
+        <translation>Désactivé&#xa0;: la connexion filaire ne s&apos;authentifie pas.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Method</source>
+        <translation>Méthode</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ask your network administrator which method and certificates your network uses.</source>
+        <translation>Demandez à votre administrateur réseau quelle méthode et quels certificats votre réseau utilise.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Authentication</source>
+        <translation>Authentification</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>No file chosen</source>
+        <translation>Aucun fichier choisi</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Browse…</source>
+        <translation>Parcourir…</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+</context>
+<context>
     <name>ExportSettingsPage</name>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="+33"/>
@@ -1238,6 +1874,44 @@
     </message>
 </context>
 <context>
+    <name>HostnamePage</name>
+    <message>
+        <location filename="../qml/vorplex/HostnamePage.qml" line="+22"/>
+        <source>Use 1 to 63 letters, digits and hyphens, not starting or ending with a hyphen.</source>
+        <translation>Utilisez de 1 à 63 lettres, chiffres et tirets, sans tiret au début ni à la fin.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Setting the computer name…</source>
+        <translation>Définition du nom de l&apos;ordinateur…</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Computer name set to %1.</source>
+        <translation>Nom de l&apos;ordinateur défini sur %1.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Computer name: </source>
+        <translation>Nom de l&apos;ordinateur&#xa0;: </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The name of this terminal on the network and on the management server. Leave the field empty to use the name made from the network adapter.</source>
+        <translation>Le nom de ce terminal sur le réseau et sur le serveur de gestion. Laissez le champ vide pour utiliser le nom formé à partir de la carte réseau.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Computer name</source>
+        <translation>Nom de l&apos;ordinateur</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+</context>
+<context>
     <name>ImportSettingsPage</name>
     <message numerus="yes">
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="+33"/>
@@ -1305,6 +1979,92 @@
         <location line="+1"/>
         <source>The chosen settings of this terminal are replaced by the saved ones.</source>
         <translation>Les paramètres choisis de ce terminal sont remplacés par ceux de la sauvegarde.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardPage</name>
+    <message>
+        <location filename="../qml/vorplex/KeyboardPage.qml" line="+25"/>
+        <source>Unknown</source>
+        <translation>Inconnue</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <source>Current layout</source>
+        <translation>Disposition actuelle</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Switching layouts</source>
+        <translation>Changer de disposition</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Press Alt+Shift to switch to the next layout.</source>
+        <translation>Appuyez sur Alt+Maj pour passer à la disposition suivante.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Layouts</source>
+        <translation>Dispositions</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The preferred layout is active after power-on.</source>
+        <translation>La disposition préférée est active après la mise sous tension.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Add layouts</source>
+        <translation>Ajouter des dispositions</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>Preferred</source>
+        <translation>Préférée</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Make preferred</source>
+        <translation>Définir comme préférée</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>No layouts chosen</source>
+        <translation>Aucune disposition choisie</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The keyboard uses the system&apos;s layout. Add the layouts you type with.</source>
+        <translation>Le clavier utilise la disposition du système. Ajoutez les dispositions avec lesquelles vous tapez.</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePage</name>
+    <message>
+        <location filename="../qml/vorplex/LanguagePage.qml" line="+20"/>
+        <source>Display language</source>
+        <translation>Langue d&apos;affichage</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The language of this terminal&apos;s screens. Sessions keep their own language.</source>
+        <translation>La langue des écrans de ce terminal. Les sessions conservent leur propre langue.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Language changed.</source>
+        <translation>Langue modifiée.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The %1 translation could not be loaded; the language was not changed.</source>
+        <translation>Impossible de charger la traduction %1&#x202f;; la langue n&apos;a pas été modifiée.</translation>
     </message>
 </context>
 <context>
@@ -1687,11 +2447,82 @@
     </message>
 </context>
 <context>
+    <name>MousePage</name>
+    <message>
+        <location filename="../qml/vorplex/MousePage.qml" line="+29"/>
+        <source>Pointer speed</source>
+        <translation>Vitesse du pointeur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>How far the pointer moves for a movement of the mouse or touchpad.</source>
+        <translation>La distance parcourue par le pointeur pour un mouvement de la souris ou du pavé tactile.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No mouse or touchpad with an adjustable speed is connected.</source>
+        <translation>Aucune souris ni pavé tactile à vitesse réglable n&apos;est connecté.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>SLOW</source>
+        <translation>LENT</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>FAST</source>
+        <translation>RAPIDE</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Primary button</source>
+        <translation>Bouton principal</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The button that selects and opens; the other one opens menus.</source>
+        <translation>Le bouton qui sélectionne et ouvre&#x202f;; l&apos;autre ouvre les menus.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Left button (right-handed)</source>
+        <translation>Bouton gauche (droitier)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Right button (left-handed)</source>
+        <translation>Bouton droit (gaucher)</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Double-click time</source>
+        <translation>Délai du double-clic</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The longest pause between the two clicks of a double-click.</source>
+        <translation>La pause la plus longue entre les deux clics d&apos;un double-clic.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
     <name>NavItem</name>
     <message>
         <location filename="../qml/custom/NorbixUi/NavItem.qml" line="+21"/>
         <source>%1 (locked)</source>
         <translation>%1 (verrouillé)</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkManager</name>
+    <message>
+        <location filename="../src/settings/NetworkManager.cpp" line="+303"/>
+        <source>Browse certificate</source>
+        <translation>Choisir un certificat</translation>
     </message>
 </context>
 <context>
@@ -1718,6 +2549,310 @@
         <location line="+1"/>
         <source>These settings arrive with a later software update. Until then the terminal keeps its current configuration, and nothing here needs your attention.</source>
         <translation>Ces paramètres arriveront avec une prochaine mise à jour logicielle. D&apos;ici là, le terminal conserve sa configuration actuelle et rien ici ne demande votre attention.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerActionsPage</name>
+    <message>
+        <location filename="../qml/vorplex/PowerActionsPage.qml" line="+20"/>
+        <location line="+4"/>
+        <location line="+20"/>
+        <location line="+2"/>
+        <source>Shut down</source>
+        <translation>Éteindre</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <source>Ends every session and switches the terminal off.</source>
+        <translation>Ferme toutes les sessions et éteint le terminal.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+4"/>
+        <location line="+19"/>
+        <location line="+2"/>
+        <source>Restart</source>
+        <translation>Redémarrer</translation>
+    </message>
+    <message>
+        <location line="-24"/>
+        <source>Ends every session and starts the terminal again.</source>
+        <translation>Ferme toutes les sessions et redémarre le terminal.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Shut the terminal down now? Open sessions end and unsaved work in them is lost.</source>
+        <translation>Éteindre le terminal maintenant&#x202f;? Les sessions ouvertes sont fermées et le travail non enregistré qu&apos;elles contiennent est perdu.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Restart the terminal now? Open sessions end and unsaved work in them is lost.</source>
+        <translation>Redémarrer le terminal maintenant&#x202f;? Les sessions ouvertes sont fermées et le travail non enregistré qu&apos;elles contiennent est perdu.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerPage</name>
+    <message>
+        <location filename="../qml/vorplex/PowerPage.qml" line="+19"/>
+        <source>Power saving settings applied.</source>
+        <translation>Paramètres d&apos;économie d&apos;énergie appliqués.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Power saving</source>
+        <translation>Économie d&apos;énergie</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Without keyboard or mouse input, the screen turns off and later the terminal goes to sleep.</source>
+        <translation>Sans action sur le clavier ou la souris, l&apos;écran s&apos;éteint, puis le terminal se met en veille.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Turn off the screen after</source>
+        <translation>Éteindre l&apos;écran après</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No turn off</source>
+        <translation>Jamais</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>1 minute</source>
+        <translation>1 minute</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+7"/>
+        <source>5 minutes</source>
+        <translation>5 minutes</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <location line="+7"/>
+        <source>30 minutes</source>
+        <translation>30 minutes</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <location line="+7"/>
+        <source>1 hour</source>
+        <translation>1 heure</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Put the terminal to sleep after</source>
+        <translation>Mettre le terminal en veille après</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No sleep</source>
+        <translation>Jamais</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>6 hours</source>
+        <translation>6 heures</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>APPLY</source>
+        <translation>APPLIQUER</translation>
+    </message>
+</context>
+<context>
+    <name>PrintersBackend</name>
+    <message>
+        <location filename="../src/settings/PrintersBackend.cpp" line="+72"/>
+        <source>The printer could not be added.</source>
+        <translation>Impossible d&apos;ajouter l&apos;imprimante.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Choose the printer&apos;s device.</source>
+        <translation>Choisissez le périphérique de l&apos;imprimante.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Choose a driver.</source>
+        <translation>Choisissez un pilote.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintersPage</name>
+    <message>
+        <location filename="../qml/vorplex/PrintersPage.qml" line="+35"/>
+        <location line="+14"/>
+        <source>Printer %1 added.</source>
+        <translation>Imprimante %1 ajoutée.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Printing in sessions</source>
+        <translation>Impression dans les sessions</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remote sessions can print on this terminal&apos;s printers.</source>
+        <translation>Les sessions distantes peuvent imprimer sur les imprimantes de ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Printers</source>
+        <translation>Imprimantes</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The default printer is the one sessions print to unless told otherwise.</source>
+        <translation>L&apos;imprimante par défaut est celle sur laquelle les sessions impriment, sauf indication contraire.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Make default</source>
+        <translation>Définir par défaut</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+114"/>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <location line="-99"/>
+        <source>No printers</source>
+        <translation>Aucune imprimante</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add a network printer by its address, or a printer connected by USB.</source>
+        <translation>Ajoutez une imprimante réseau par son adresse, ou une imprimante connectée en USB.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Add a network printer</source>
+        <translation>Ajouter une imprimante réseau</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Printers that support IPP Everywhere (most printers made since 2012) need no driver.</source>
+        <translation>Les imprimantes compatibles IPP Everywhere (la plupart de celles fabriquées depuis 2012) n&apos;ont pas besoin de pilote.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+66"/>
+        <source>Printer name</source>
+        <translation>Nom de l&apos;imprimante</translation>
+    </message>
+    <message>
+        <location line="-65"/>
+        <source>For example Office_2nd_floor</source>
+        <translation>Par exemple Bureau_2e_etage</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+65"/>
+        <source>Letters, digits, _ . - + @; no spaces.</source>
+        <translation>Lettres, chiffres, _ . - + @&#x202f;; sans espaces.</translation>
+    </message>
+    <message>
+        <location line="-57"/>
+        <source>Host name or address</source>
+        <translation>Nom d&apos;hôte ou adresse</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+55"/>
+        <source>Add printer</source>
+        <translation>Ajouter l&apos;imprimante</translation>
+    </message>
+    <message>
+        <location line="-48"/>
+        <source>Add a USB printer</source>
+        <translation>Ajouter une imprimante USB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connect the printer, then look for it and choose its driver.</source>
+        <translation>Branchez l&apos;imprimante, puis recherchez-la et choisissez son pilote.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Look for USB printers</source>
+        <translation>Rechercher les imprimantes USB</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No USB printer found</source>
+        <translation>Aucune imprimante USB trouvée</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Look again</source>
+        <translation>Rechercher à nouveau</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Driver</source>
+        <translation>Pilote</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No drivers found</source>
+        <translation>Aucun pilote trouvé</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Delete printer</source>
+        <translation>Supprimer l&apos;imprimante</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Delete the printer %1? Sessions can no longer print to it.</source>
+        <translation>Supprimer l&apos;imprimante %1&#x202f;? Les sessions ne pourront plus imprimer dessus.</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <location filename="../src/settings/PrinterParsers.cpp" line="+42"/>
+        <source>Enter a printer name.</source>
+        <translation>Saisissez un nom d&apos;imprimante.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A printer name has at most 127 characters.</source>
+        <translation>Un nom d&apos;imprimante comporte au plus 127 caractères.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>A printer name may only contain letters, digits and _ . - + @ (no spaces, &quot;/&quot; or &quot;#&quot;).</source>
+        <translation>Un nom d&apos;imprimante ne peut contenir que des lettres, des chiffres et _ . - + @ (ni espaces, ni «&#xa0;/&#xa0;», ni «&#xa0;#&#xa0;»).</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Enter the printer&apos;s host name or address.</source>
+        <translation>Saisissez le nom d&apos;hôte ou l&apos;adresse de l&apos;imprimante.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a host name or address.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est ni un nom d&apos;hôte ni une adresse.</translation>
     </message>
 </context>
 <context>
@@ -1792,6 +2927,23 @@
     </message>
 </context>
 <context>
+    <name>ScreenListModel</name>
+    <message>
+        <location filename="../src/settings/ScreenListModel.cpp" line="+76"/>
+        <source>Display %1</source>
+        <translation>Écran %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScreensBackend</name>
+    <message>
+        <location filename="../src/settings/ScreensBackend.cpp" line="+139"/>
+        <location line="+5"/>
+        <source>Display %1</source>
+        <translation>Écran %1</translation>
+    </message>
+</context>
+<context>
     <name>SectionCatalog</name>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="+9"/>
@@ -1815,8 +2967,8 @@
     </message>
     <message>
         <location line="+1"/>
-        <source>Ethernet addressing, DNS and proxy.</source>
-        <translation>Adressage Ethernet, DNS et proxy.</translation>
+        <source>Ethernet addressing and DNS servers.</source>
+        <translation>Adressage Ethernet et serveurs DNS.</translation>
     </message>
     <message>
         <location line="+1"/>
@@ -1847,6 +2999,26 @@
         <location line="+1"/>
         <source>The name this terminal uses on the network.</source>
         <translation>Le nom de ce terminal sur le réseau.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Network diagnosis</source>
+        <translation>Diagnostic réseau</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Check that a host answers over the network.</source>
+        <translation>Vérifier qu&apos;un hôte répond sur le réseau.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Wi-Fi networks</source>
+        <translation>Réseaux Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Join a wireless network approved by your administrator.</source>
+        <translation>Rejoindre un réseau sans fil approuvé par votre administrateur.</translation>
     </message>
     <message>
         <location line="+4"/>
@@ -1957,6 +3129,16 @@
         <location line="+1"/>
         <source>Access to USB drives on this terminal and in sessions.</source>
         <translation>Accès aux clés USB sur ce terminal et dans les sessions.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shut down &amp; restart</source>
+        <translation>Arrêt et redémarrage</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Switch the terminal off or start it again.</source>
+        <translation>Éteindre ou redémarrer le terminal.</translation>
     </message>
     <message>
         <location line="+4"/>
@@ -2156,6 +3338,75 @@
     </message>
 </context>
 <context>
+    <name>SoundPage</name>
+    <message>
+        <location filename="../qml/vorplex/SoundPage.qml" line="+23"/>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Where the terminal and its sessions play sound.</source>
+        <translation>Où le terminal et ses sessions diffusent le son.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Output device</source>
+        <translation>Périphérique de sortie</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No output device found</source>
+        <translation>Aucun périphérique de sortie trouvé</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <location line="+38"/>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <location line="-28"/>
+        <source>Test sound</source>
+        <translation>Tester le son</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The recording level of the microphone.</source>
+        <translation>Le niveau d&apos;enregistrement du microphone.</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Test microphone</source>
+        <translation>Tester le microphone</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Recording for three seconds, then playing it back...</source>
+        <translation>Enregistrement de trois secondes, puis lecture...</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Done. Did you hear yourself?</source>
+        <translation>Terminé. Vous êtes-vous entendu&#x202f;?</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Speak after pressing: three seconds are recorded and played back.</source>
+        <translation>Parlez après avoir appuyé&#xa0;: trois secondes sont enregistrées puis rejouées.</translation>
+    </message>
+</context>
+<context>
     <name>TeamsPopup</name>
     <message>
         <location filename="../qml/vorplex/TeamsPopup.qml" line="+33"/>
@@ -2351,6 +3602,54 @@
     </message>
 </context>
 <context>
+    <name>UsbStoragePage</name>
+    <message>
+        <location filename="../qml/vorplex/UsbStoragePage.qml" line="+32"/>
+        <source>USB storage</source>
+        <translation>Stockage USB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB drives plugged into this terminal are opened and can be used in sessions.</source>
+        <translation>Les clés USB branchées sur ce terminal sont ouvertes et utilisables dans les sessions.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>USB storage is on.</source>
+        <translation>Le stockage USB est activé.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>USB storage is off.</source>
+        <translation>Le stockage USB est désactivé.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>USB devices</source>
+        <translation>Périphériques USB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Everything connected to this terminal&apos;s USB ports.</source>
+        <translation>Tout ce qui est branché sur les ports USB de ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Unnamed device</source>
+        <translation>Périphérique sans nom</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>No USB devices found</source>
+        <translation>Aucun périphérique USB trouvé</translation>
+    </message>
+</context>
+<context>
     <name>VMWareConnectDialog</name>
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="+33"/>
@@ -2471,6 +3770,456 @@
         <location line="+1"/>
         <source>Optional: the desktop pool to open</source>
         <translation>Facultatif&#xa0;: pool de bureaux à ouvrir</translation>
+    </message>
+</context>
+<context>
+    <name>WallpaperPage</name>
+    <message>
+        <location filename="../qml/vorplex/WallpaperPage.qml" line="+26"/>
+        <source>Wallpaper set to %1.</source>
+        <translation>Fond d&apos;écran défini sur %1.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Current background</source>
+        <translation>Arrière-plan actuel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The built-in background</source>
+        <translation>L&apos;arrière-plan intégré</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Use the built-in background</source>
+        <translation>Utiliser l&apos;arrière-plan intégré</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Pictures on USB drives</source>
+        <translation>Images sur les clés USB</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PNG and JPEG images on the drives connected to this terminal. The picture is copied to the terminal.</source>
+        <translation>Images PNG et JPEG des clés branchées sur ce terminal. L&apos;image est copiée sur le terminal.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>%1 (not an image)</source>
+        <translation>%1 (pas une image)</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>No pictures found</source>
+        <translation>Aucune image trouvée</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive with PNG or JPEG pictures, then refresh.</source>
+        <translation>Insérez une clé USB contenant des images PNG ou JPEG, puis actualisez.</translation>
+    </message>
+</context>
+<context>
+    <name>WallpapersManager</name>
+    <message>
+        <location filename="../src/settings/WallpapersManager.cpp" line="+78"/>
+        <source>The file %1 cannot be read.</source>
+        <translation>Impossible de lire le fichier %1.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 is not a PNG or JPEG image.</source>
+        <translation>%1 n&apos;est pas une image PNG ou JPEG.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The image could not be copied to the terminal.</source>
+        <translation>Impossible de copier l&apos;image sur le terminal.</translation>
+    </message>
+</context>
+<context>
+    <name>WifiPage</name>
+    <message>
+        <location filename="../qml/vorplex/WifiPage.qml" line="+29"/>
+        <location line="+214"/>
+        <source>Connecting to %1…</source>
+        <translation>Connexion à %1…</translation>
+    </message>
+    <message>
+        <location line="-179"/>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The radio is on.</source>
+        <translation>La radio est activée.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>The radio is off.</source>
+        <translation>La radio est désactivée.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This terminal has no Wi-Fi adapter.</source>
+        <translation>Ce terminal n&apos;a pas d&apos;adaptateur Wi-Fi.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Switching the radio on…</source>
+        <translation>Activation de la radio…</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Switching the radio off…</source>
+        <translation>Désactivation de la radio…</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Networks in range</source>
+        <translation>Réseaux à portée</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Hidden networks are listed under the address of their access point.</source>
+        <translation>Les réseaux masqués sont listés sous l&apos;adresse de leur point d&apos;accès.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>No networks found</source>
+        <translation>Aucun réseau trouvé</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Wi-Fi is off</source>
+        <translation>Le Wi-Fi est désactivé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The list is refreshed every few seconds.</source>
+        <translation>La liste est actualisée toutes les quelques secondes.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Switch the radio on to see networks in range.</source>
+        <translation>Activez la radio pour voir les réseaux à portée.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Signal %1 %</source>
+        <translation>Signal %1&#xa0;%</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Secured</source>
+        <translation>Sécurisé</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Open</source>
+        <translation>Ouvert</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+115"/>
+        <source>Connect</source>
+        <translation>Se connecter</translation>
+    </message>
+    <message>
+        <location line="-110"/>
+        <source>Disconnect</source>
+        <translation>Se déconnecter</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Disconnecting from %1…</source>
+        <translation>Déconnexion de %1…</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Saved networks</source>
+        <translation>Réseaux enregistrés</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Networks shown for users appear on the user&apos;s Wi-Fi list; one network can connect by itself at start.</source>
+        <translation>Les réseaux affichés pour les utilisateurs apparaissent dans leur liste Wi-Fi&#x202f;; un réseau peut se connecter seul au démarrage.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>NAME</source>
+        <translation>NOM</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>AUTO CONNECT</source>
+        <translation>CONNEXION AUTO</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>SHOW FOR USER</source>
+        <translation>VISIBLE UTILISATEUR</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>OPTIONS</source>
+        <translation>OPTIONS</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>No saved networks</source>
+        <translation>Aucun réseau enregistré</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Networks this terminal has joined are kept here.</source>
+        <translation>Les réseaux rejoints par ce terminal sont conservés ici.</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Connect to %1 at start</source>
+        <translation>Se connecter à %1 au démarrage</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Show %1 for users</source>
+        <translation>Afficher %1 pour les utilisateurs</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Forget %1</source>
+        <translation>Oublier %1</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Connect to %1</source>
+        <translation>Se connecter à %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the password of the network %1.</source>
+        <translation>Saisissez le mot de passe du réseau %1.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Forget network</source>
+        <translation>Oublier le réseau</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Forget %1? The terminal will need the password again to join it.</source>
+        <translation>Oublier %1&#x202f;? Le terminal aura de nouveau besoin du mot de passe pour s&apos;y connecter.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Forget</source>
+        <translation>Oublier</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Forgetting %1…</source>
+        <translation>Oubli de %1…</translation>
+    </message>
+</context>
+<context>
+    <name>WifiUserPage</name>
+    <message>
+        <location filename="../qml/vorplex/WifiUserPage.qml" line="+32"/>
+        <source>Available networks</source>
+        <translation>Réseaux disponibles</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Networks approved by your administrator that are in range.</source>
+        <translation>Réseaux approuvés par votre administrateur et à portée.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>No approved network in range</source>
+        <translation>Aucun réseau approuvé à portée</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ask your administrator to approve a network for users.</source>
+        <translation>Demandez à votre administrateur d&apos;approuver un réseau pour les utilisateurs.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Not connected</source>
+        <translation>Non connecté</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Disconnect</source>
+        <translation>Se déconnecter</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Connect</source>
+        <translation>Se connecter</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Disconnecting from %1…</source>
+        <translation>Déconnexion de %1…</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Connecting to %1…</source>
+        <translation>Connexion à %1…</translation>
+    </message>
+</context>
+<context>
+    <name>WiredNetworkPage</name>
+    <message>
+        <location filename="../qml/vorplex/WiredNetworkPage.qml" line="+27"/>
+        <location line="+1"/>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Enter an address such as 192.168.1.20.</source>
+        <translation>Saisissez une adresse telle que 192.168.1.20.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter a mask such as 255.255.255.0.</source>
+        <translation>Saisissez un masque tel que 255.255.255.0.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Enter an address, or leave it empty.</source>
+        <translation>Saisissez une adresse ou laissez le champ vide.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Applying the settings of %1…</source>
+        <translation>Application des paramètres de %1…</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Settings applied. The interface now reports the values shown.</source>
+        <translation>Paramètres appliqués. L&apos;interface indique maintenant les valeurs affichées.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <location line="+14"/>
+        <source>Interface</source>
+        <translation>Interface</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>The network adapter to configure and what it reports now.</source>
+        <translation>La carte réseau à configurer et ce qu&apos;elle indique actuellement.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>No network interface found</source>
+        <translation>Aucune interface réseau trouvée</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+26"/>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <location line="+26"/>
+        <source>Subnet mask</source>
+        <translation>Masque de sous-réseau</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <location line="+26"/>
+        <source>Gateway</source>
+        <translation>Passerelle</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <source>DNS servers</source>
+        <translation>Serveurs DNS</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>IPv4 addressing</source>
+        <translation>Adressage IPv4</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic takes address, gateway and DNS from the network&apos;s DHCP server.</source>
+        <translation>En automatique, l&apos;adresse, la passerelle et le DNS viennent du serveur DHCP du réseau.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Automatic (DHCP)</source>
+        <translation>Automatique (DHCP)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>DNS server 1</source>
+        <translation>Serveur DNS 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DNS server 2</source>
+        <translation>Serveur DNS 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DNS server 3</source>
+        <translation>Serveur DNS 3</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
     </message>
 </context>
 </TS>

@@ -214,6 +214,39 @@
     </message>
 </context>
 <context>
+    <name>AddLayoutDialog</name>
+    <message>
+        <location filename="../qml/vorplex/AddLayoutDialog.qml" line="+16"/>
+        <source>Add keyboard layouts</source>
+        <translation>Добавить раскладки клавиатуры</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Language or country</source>
+        <translation>Язык или страна</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Loading info...</source>
+        <translation>Загрузка сведений...</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>The list of keyboard layouts could not be read.</source>
+        <translation>Не удалось прочитать список раскладок клавиатуры.</translation>
+    </message>
+</context>
+<context>
     <name>AddPuttyConnection</name>
     <message>
         <location filename="../qml/vorplex/AddPuttyConnection.qml" line="+26"/>
@@ -1154,6 +1187,610 @@
     </message>
 </context>
 <context>
+    <name>DateTimePage</name>
+    <message>
+        <location filename="../qml/vorplex/DateTimePage.qml" line="+68"/>
+        <source>Enter a host name or address such as pool.ntp.org.</source>
+        <translation>Введите имя узла или адрес, например pool.ntp.org.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Choose a time zone.</source>
+        <translation>Выберите часовой пояс.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Date and time settings applied.</source>
+        <translation>Настройки даты и времени применены.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Date and time</source>
+        <translation>Дата и время</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Without a time server the clock keeps the date and time set here.</source>
+        <translation>Без сервера времени часы сохраняют установленные здесь дату и время.</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Previous month</source>
+        <translation>Предыдущий месяц</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Next month</source>
+        <translation>Следующий месяц</translation>
+    </message>
+    <message>
+        <location line="+86"/>
+        <source>Clock format</source>
+        <translation>Формат времени</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>12-hour</source>
+        <translation>12-часовой</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>24-hour</source>
+        <translation>24-часовой</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Hour</source>
+        <translation>Час</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Minute</source>
+        <translation>Минута</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>AM</source>
+        <translation>AM</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PM</source>
+        <translation>PM</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Time zone</source>
+        <translation>Часовой пояс</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Choose a time zone</source>
+        <translation>Выберите часовой пояс</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Time server (NTP)</source>
+        <translation>Сервер времени (NTP)</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Leave empty to set the clock by hand.</source>
+        <translation>Оставьте пустым, чтобы установить время вручную.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>APPLY</source>
+        <translation>ПРИМЕНИТЬ</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosisPage</name>
+    <message>
+        <location filename="../qml/vorplex/DiagnosisPage.qml" line="+18"/>
+        <source>Enter a host name or address.</source>
+        <translation>Введите имя узла или адрес.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Enter a number of packages from 1.</source>
+        <translation>Введите число пакетов от 1.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Enter a length from 0 to 65507 bytes.</source>
+        <translation>Введите длину от 0 до 65507 байт.</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Ping</source>
+        <translation>Ping</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Sends echo requests to a host and shows its answers.</source>
+        <translation>Отправляет эхо-запросы узлу и показывает его ответы.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Host</source>
+        <translation>Узел</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Keep sending packages:</source>
+        <translation>Отправлять непрерывно:</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Send only:</source>
+        <translation>Отправить только:</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Number of packages</source>
+        <translation>Число пакетов</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Packet length (bytes)</source>
+        <translation>Размер пакета (байт)</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Start</source>
+        <translation>Начать</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Stop</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Output</source>
+        <translation>Вывод</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>The answers appear here.</source>
+        <translation>Здесь появятся ответы.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplaysPage</name>
+    <message>
+        <location filename="../qml/vorplex/DisplaysPage.qml" line="+12"/>
+        <source>Landscape</source>
+        <translation>Альбомная</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Inverted Landscape</source>
+        <translation>Альбомная (перевёрнутая)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Left Portrait</source>
+        <translation>Книжная (влево)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Right Portrait</source>
+        <translation>Книжная (вправо)</translation>
+    </message>
+    <message>
+        <location line="+54"/>
+        <source>Choose a resolution and a refresh rate first.</source>
+        <translation>Сначала выберите разрешение и частоту обновления.</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>The previous display settings are back.</source>
+        <translation>Прежние настройки дисплеев восстановлены.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Display settings kept.</source>
+        <translation>Настройки дисплеев сохранены.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Arrangement</source>
+        <translation>Расположение</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Displays from left to right. Select one to change its settings.</source>
+        <translation>Дисплеи слева направо. Выберите дисплей, чтобы изменить его настройки.</translation>
+    </message>
+    <message>
+        <location line="+74"/>
+        <source>Primary</source>
+        <translation>Основной</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>No display found</source>
+        <translation>Дисплеи не найдены</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Move left</source>
+        <translation>Сдвинуть влево</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Move right</source>
+        <translation>Сдвинуть вправо</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Make primary</source>
+        <translation>Сделать основным</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>IDENTIFY SCREENS</source>
+        <translation>ОПРЕДЕЛИТЬ ДИСПЛЕИ</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Several displays</source>
+        <translation>Несколько дисплеев</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Extend the desktop across the displays, or show the same picture on each.</source>
+        <translation>Расширить рабочий стол на все дисплеи или показывать на каждом одно и то же.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Extend</source>
+        <translation>Расширить</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Mirror</source>
+        <translation>Дублировать</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Display</source>
+        <translation>Дисплей</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Resolutions are listed from the smallest to the largest.</source>
+        <translation>Разрешения перечислены от меньшего к большему.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Resolution</source>
+        <translation>Разрешение</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Refresh rate (Hz)</source>
+        <translation>Частота обновления (Гц)</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Orientation</source>
+        <translation>Ориентация</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>APPLY</source>
+        <translation>ПРИМЕНИТЬ</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Displays reset to their default size.</source>
+        <translation>Для дисплеев восстановлен размер по умолчанию.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Keep these settings?</source>
+        <translation>Сохранить эти настройки?</translation>
+    </message>
+    <message numerus="yes">
+        <location line="+1"/>
+        <source>The previous settings come back in %n second(s).</source>
+        <translation>
+            <numerusform>Прежние настройки вернутся через %n секунду.</numerusform>
+            <numerusform>Прежние настройки вернутся через %n секунды.</numerusform>
+            <numerusform>Прежние настройки вернутся через %n секунд.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Keep settings</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Revert</source>
+        <translation>Вернуть</translation>
+    </message>
+</context>
+<context>
+    <name>Dot1xPage</name>
+    <message>
+        <location filename="../qml/vorplex/Dot1xPage.qml" line="+11"/>
+        <location line="+39"/>
+        <location line="+12"/>
+        <source>MD5</source>
+        <translation>MD5</translation>
+    </message>
+    <message>
+        <location line="-51"/>
+        <source>TLS</source>
+        <translation>TLS</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>PWD</source>
+        <translation>PWD</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>FAST</source>
+        <translation>FAST</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Tunneled TLS</source>
+        <translation>Туннелированный TLS</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Protected EAP (PEAP)</source>
+        <translation>Защищённый EAP (PEAP)</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <location line="+14"/>
+        <location line="+10"/>
+        <location line="+11"/>
+        <location line="+11"/>
+        <source>Username</source>
+        <translation>Имя пользователя</translation>
+    </message>
+    <message>
+        <location line="-45"/>
+        <location line="+14"/>
+        <location line="+10"/>
+        <location line="+11"/>
+        <location line="+11"/>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <location line="-43"/>
+        <source>Identity</source>
+        <translation>Идентификатор</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+24"/>
+        <location line="+11"/>
+        <source>Domain</source>
+        <translation>Домен</translation>
+    </message>
+    <message>
+        <location line="-34"/>
+        <location line="+24"/>
+        <location line="+11"/>
+        <source>CA certificate</source>
+        <translation>Сертификат ЦС</translation>
+    </message>
+    <message>
+        <location line="-34"/>
+        <location line="+24"/>
+        <source>CA certificate password</source>
+        <translation>Пароль сертификата ЦС</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <source>User certificate</source>
+        <translation>Сертификат пользователя</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User certificate password</source>
+        <translation>Пароль сертификата пользователя</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User private key</source>
+        <translation>Закрытый ключ пользователя</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>User key password</source>
+        <translation>Пароль ключа пользователя</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+10"/>
+        <location line="+11"/>
+        <source>Anonymous identity</source>
+        <translation>Анонимный идентификатор</translation>
+    </message>
+    <message>
+        <location line="-20"/>
+        <source>PAC provisioning</source>
+        <translation>Выдача PAC</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Off</source>
+        <translation>Выкл.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Anonymous</source>
+        <translation>Анонимная</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Authenticated</source>
+        <translation>С проверкой подлинности</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Both</source>
+        <translation>Обе</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PAC file</source>
+        <translation>Файл PAC</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+10"/>
+        <location line="+12"/>
+        <source>Inner authentication</source>
+        <translation>Внутренняя аутентификация</translation>
+    </message>
+    <message>
+        <location line="-21"/>
+        <location line="+10"/>
+        <location line="+12"/>
+        <source>GTC</source>
+        <translation>GTC</translation>
+    </message>
+    <message>
+        <location line="-22"/>
+        <location line="+10"/>
+        <location line="+12"/>
+        <source>MSCHAPv2</source>
+        <translation>MSCHAPv2</translation>
+    </message>
+    <message>
+        <location line="-12"/>
+        <source>PAP</source>
+        <translation>PAP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MSCHAP</source>
+        <translation>MSCHAP</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>MSCHAPv2 (no EAP)</source>
+        <translation>MSCHAPv2 (без EAP)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>CHAP</source>
+        <translation>CHAP</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>PEAP version</source>
+        <translation>Версия PEAP</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic</source>
+        <translation>Автоматически</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Version 0</source>
+        <translation>Версия 0</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Version 1</source>
+        <translation>Версия 1</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Writing the 802.1X settings…</source>
+        <translation>Запись настроек 802.1X…</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Switching 802.1X off…</source>
+        <translation>Отключение 802.1X…</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>802.1X is on with %1.</source>
+        <translation>802.1X включён, метод: %1.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>802.1X is off.</source>
+        <translation>802.1X выключен.</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>802.1X authentication</source>
+        <translation>Аутентификация 802.1X</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The wired connection authenticates before it is let onto the network.</source>
+        <translation>Проводное подключение проходит аутентификацию до допуска в сеть.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Off: the wired connection does not authenticate.</source>
+        <translation>Выкл.: проводное подключение не проходит аутентификацию.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Method</source>
+        <translation>Метод</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ask your network administrator which method and certificates your network uses.</source>
+        <translation>Узнайте у сетевого администратора, какой метод и какие сертификаты используются в вашей сети.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Authentication</source>
+        <translation>Аутентификация</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Apply</source>
+        <translation>Применить</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <source>No file chosen</source>
+        <translation>Файл не выбран</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Browse…</source>
+        <translation>Обзор…</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+</context>
+<context>
     <name>ExportSettingsPage</name>
     <message>
         <location filename="../qml/vorplex/ExportSettingsPage.qml" line="+33"/>
@@ -1239,6 +1876,44 @@
     </message>
 </context>
 <context>
+    <name>HostnamePage</name>
+    <message>
+        <location filename="../qml/vorplex/HostnamePage.qml" line="+22"/>
+        <source>Use 1 to 63 letters, digits and hyphens, not starting or ending with a hyphen.</source>
+        <translation>Используйте от 1 до 63 букв, цифр и дефисов; дефис не может стоять в начале или в конце.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Setting the computer name…</source>
+        <translation>Установка имени компьютера…</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Computer name set to %1.</source>
+        <translation>Имя компьютера изменено на %1.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Computer name: </source>
+        <translation>Имя компьютера: </translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The name of this terminal on the network and on the management server. Leave the field empty to use the name made from the network adapter.</source>
+        <translation>Имя этого терминала в сети и на сервере управления. Оставьте поле пустым, чтобы использовать имя, созданное по сетевому адаптеру.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Computer name</source>
+        <translation>Имя компьютера</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Apply</source>
+        <translation>Применить</translation>
+    </message>
+</context>
+<context>
     <name>ImportSettingsPage</name>
     <message numerus="yes">
         <location filename="../qml/vorplex/ImportSettingsPage.qml" line="+33"/>
@@ -1308,6 +1983,92 @@
         <location line="+1"/>
         <source>The chosen settings of this terminal are replaced by the saved ones.</source>
         <translation>Выбранные настройки этого терминала будут заменены сохранёнными.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardPage</name>
+    <message>
+        <location filename="../qml/vorplex/KeyboardPage.qml" line="+25"/>
+        <source>Unknown</source>
+        <translation>Неизвестно</translation>
+    </message>
+    <message>
+        <location line="+26"/>
+        <source>Current layout</source>
+        <translation>Текущая раскладка</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Switching layouts</source>
+        <translation>Переключение раскладок</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Press Alt+Shift to switch to the next layout.</source>
+        <translation>Нажмите Alt+Shift, чтобы переключиться на следующую раскладку.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Layouts</source>
+        <translation>Раскладки</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The preferred layout is active after power-on.</source>
+        <translation>После включения действует предпочитаемая раскладка.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Add layouts</source>
+        <translation>Добавить раскладки</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>Preferred</source>
+        <translation>Предпочитаемая</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Make preferred</source>
+        <translation>Сделать предпочитаемой</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Remove</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>No layouts chosen</source>
+        <translation>Раскладки не выбраны</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The keyboard uses the system&apos;s layout. Add the layouts you type with.</source>
+        <translation>Клавиатура использует системную раскладку. Добавьте раскладки, на которых вы печатаете.</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePage</name>
+    <message>
+        <location filename="../qml/vorplex/LanguagePage.qml" line="+20"/>
+        <source>Display language</source>
+        <translation>Язык интерфейса</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The language of this terminal&apos;s screens. Sessions keep their own language.</source>
+        <translation>Язык экранов этого терминала. Сеансы сохраняют собственный язык.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Language changed.</source>
+        <translation>Язык изменён.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The %1 translation could not be loaded; the language was not changed.</source>
+        <translation>Не удалось загрузить перевод «%1»; язык не изменён.</translation>
     </message>
 </context>
 <context>
@@ -1690,11 +2451,82 @@
     </message>
 </context>
 <context>
+    <name>MousePage</name>
+    <message>
+        <location filename="../qml/vorplex/MousePage.qml" line="+29"/>
+        <source>Pointer speed</source>
+        <translation>Скорость указателя</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>How far the pointer moves for a movement of the mouse or touchpad.</source>
+        <translation>Насколько далеко перемещается указатель при движении мыши или сенсорной панели.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No mouse or touchpad with an adjustable speed is connected.</source>
+        <translation>Не подключены мышь или сенсорная панель с настраиваемой скоростью.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>SLOW</source>
+        <translation>МЕДЛЕННО</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>FAST</source>
+        <translation>БЫСТРО</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Primary button</source>
+        <translation>Основная кнопка</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The button that selects and opens; the other one opens menus.</source>
+        <translation>Кнопка для выбора и открытия; другая открывает меню.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Left button (right-handed)</source>
+        <translation>Левая кнопка (для правши)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Right button (left-handed)</source>
+        <translation>Правая кнопка (для левши)</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Double-click time</source>
+        <translation>Интервал двойного щелчка</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The longest pause between the two clicks of a double-click.</source>
+        <translation>Наибольшая пауза между двумя щелчками двойного щелчка.</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>%1 ms</source>
+        <translation>%1 мс</translation>
+    </message>
+</context>
+<context>
     <name>NavItem</name>
     <message>
         <location filename="../qml/custom/NorbixUi/NavItem.qml" line="+21"/>
         <source>%1 (locked)</source>
         <translation>%1 (заблокировано)</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkManager</name>
+    <message>
+        <location filename="../src/settings/NetworkManager.cpp" line="+303"/>
+        <source>Browse certificate</source>
+        <translation>Выбор сертификата</translation>
     </message>
 </context>
 <context>
@@ -1721,6 +2553,310 @@
         <location line="+1"/>
         <source>These settings arrive with a later software update. Until then the terminal keeps its current configuration, and nothing here needs your attention.</source>
         <translation>Эти настройки появятся в одном из следующих обновлений. До тех пор терминал сохраняет текущую конфигурацию, и здесь ничего не требует вашего внимания.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerActionsPage</name>
+    <message>
+        <location filename="../qml/vorplex/PowerActionsPage.qml" line="+20"/>
+        <location line="+4"/>
+        <location line="+20"/>
+        <location line="+2"/>
+        <source>Shut down</source>
+        <translation>Выключить</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <source>Ends every session and switches the terminal off.</source>
+        <translation>Завершает все сеансы и выключает терминал.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+4"/>
+        <location line="+19"/>
+        <location line="+2"/>
+        <source>Restart</source>
+        <translation>Перезагрузить</translation>
+    </message>
+    <message>
+        <location line="-24"/>
+        <source>Ends every session and starts the terminal again.</source>
+        <translation>Завершает все сеансы и перезапускает терминал.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Shut the terminal down now? Open sessions end and unsaved work in them is lost.</source>
+        <translation>Выключить терминал сейчас? Открытые сеансы будут завершены, несохранённые в них данные будут потеряны.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Restart the terminal now? Open sessions end and unsaved work in them is lost.</source>
+        <translation>Перезагрузить терминал сейчас? Открытые сеансы будут завершены, несохранённые в них данные будут потеряны.</translation>
+    </message>
+</context>
+<context>
+    <name>PowerPage</name>
+    <message>
+        <location filename="../qml/vorplex/PowerPage.qml" line="+19"/>
+        <source>Power saving settings applied.</source>
+        <translation>Настройки энергосбережения применены.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Power saving</source>
+        <translation>Энергосбережение</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Without keyboard or mouse input, the screen turns off and later the terminal goes to sleep.</source>
+        <translation>Если клавиатура и мышь не используются, экран выключается, а затем терминал переходит в спящий режим.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Turn off the screen after</source>
+        <translation>Выключать экран через</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No turn off</source>
+        <translation>Никогда</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>1 minute</source>
+        <translation>1 минуту</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+7"/>
+        <source>5 minutes</source>
+        <translation>5 минут</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <location line="+7"/>
+        <source>30 minutes</source>
+        <translation>30 минут</translation>
+    </message>
+    <message>
+        <location line="-7"/>
+        <location line="+7"/>
+        <source>1 hour</source>
+        <translation>1 час</translation>
+    </message>
+    <message>
+        <location line="-1"/>
+        <source>Put the terminal to sleep after</source>
+        <translation>Переводить терминал в спящий режим через</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>No sleep</source>
+        <translation>Никогда</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>6 hours</source>
+        <translation>6 часов</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>APPLY</source>
+        <translation>ПРИМЕНИТЬ</translation>
+    </message>
+</context>
+<context>
+    <name>PrintersBackend</name>
+    <message>
+        <location filename="../src/settings/PrintersBackend.cpp" line="+72"/>
+        <source>The printer could not be added.</source>
+        <translation>Не удалось добавить принтер.</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>Choose the printer&apos;s device.</source>
+        <translation>Выберите устройство принтера.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Choose a driver.</source>
+        <translation>Выберите драйвер.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintersPage</name>
+    <message>
+        <location filename="../qml/vorplex/PrintersPage.qml" line="+35"/>
+        <location line="+14"/>
+        <source>Printer %1 added.</source>
+        <translation>Принтер %1 добавлен.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Printing in sessions</source>
+        <translation>Печать в сеансах</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Remote sessions can print on this terminal&apos;s printers.</source>
+        <translation>Удалённые сеансы могут печатать на принтерах этого терминала.</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Printers</source>
+        <translation>Принтеры</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The default printer is the one sessions print to unless told otherwise.</source>
+        <translation>Принтер по умолчанию — тот, на котором печатают сеансы, если не указан другой.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <location line="+30"/>
+        <source>Default</source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Make default</source>
+        <translation>Использовать по умолчанию</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+114"/>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <location line="-99"/>
+        <source>No printers</source>
+        <translation>Нет принтеров</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Add a network printer by its address, or a printer connected by USB.</source>
+        <translation>Добавьте сетевой принтер по его адресу или принтер, подключённый по USB.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Add a network printer</source>
+        <translation>Добавить сетевой принтер</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Printers that support IPP Everywhere (most printers made since 2012) need no driver.</source>
+        <translation>Принтерам с поддержкой IPP Everywhere (большинство выпущенных с 2012 года) драйвер не нужен.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <location line="+66"/>
+        <source>Printer name</source>
+        <translation>Имя принтера</translation>
+    </message>
+    <message>
+        <location line="-65"/>
+        <source>For example Office_2nd_floor</source>
+        <translation>Например, Office_2nd_floor</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+65"/>
+        <source>Letters, digits, _ . - + @; no spaces.</source>
+        <translation>Буквы, цифры, _ . - + @; без пробелов.</translation>
+    </message>
+    <message>
+        <location line="-57"/>
+        <source>Host name or address</source>
+        <translation>Имя узла или адрес</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+55"/>
+        <source>Add printer</source>
+        <translation>Добавить принтер</translation>
+    </message>
+    <message>
+        <location line="-48"/>
+        <source>Add a USB printer</source>
+        <translation>Добавить USB-принтер</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connect the printer, then look for it and choose its driver.</source>
+        <translation>Подключите принтер, затем найдите его и выберите драйвер.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Look for USB printers</source>
+        <translation>Найти USB-принтеры</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Printer</source>
+        <translation>Принтер</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No USB printer found</source>
+        <translation>USB-принтеры не найдены</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Look again</source>
+        <translation>Искать снова</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Driver</source>
+        <translation>Драйвер</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No drivers found</source>
+        <translation>Драйверы не найдены</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Delete printer</source>
+        <translation>Удалить принтер</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Delete the printer %1? Sessions can no longer print to it.</source>
+        <translation>Удалить принтер %1? Сеансы больше не смогут на нём печатать.</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <location filename="../src/settings/PrinterParsers.cpp" line="+42"/>
+        <source>Enter a printer name.</source>
+        <translation>Введите имя принтера.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>A printer name has at most 127 characters.</source>
+        <translation>Имя принтера может содержать не более 127 символов.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>A printer name may only contain letters, digits and _ . - + @ (no spaces, &quot;/&quot; or &quot;#&quot;).</source>
+        <translation>Имя принтера может содержать только буквы, цифры и _ . - + @ (без пробелов, «/» и «#»).</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Enter the printer&apos;s host name or address.</source>
+        <translation>Введите имя узла или адрес принтера.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a host name or address.</source>
+        <translation>«%1» не является именем узла или адресом.</translation>
     </message>
 </context>
 <context>
@@ -1795,6 +2931,23 @@
     </message>
 </context>
 <context>
+    <name>ScreenListModel</name>
+    <message>
+        <location filename="../src/settings/ScreenListModel.cpp" line="+76"/>
+        <source>Display %1</source>
+        <translation>Дисплей %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScreensBackend</name>
+    <message>
+        <location filename="../src/settings/ScreensBackend.cpp" line="+139"/>
+        <location line="+5"/>
+        <source>Display %1</source>
+        <translation>Дисплей %1</translation>
+    </message>
+</context>
+<context>
     <name>SectionCatalog</name>
     <message>
         <location filename="../qml/vorplex/SectionCatalog.qml" line="+9"/>
@@ -1818,8 +2971,8 @@
     </message>
     <message>
         <location line="+1"/>
-        <source>Ethernet addressing, DNS and proxy.</source>
-        <translation>Адресация Ethernet, DNS и прокси.</translation>
+        <source>Ethernet addressing and DNS servers.</source>
+        <translation>Адресация Ethernet и DNS-серверы.</translation>
     </message>
     <message>
         <location line="+1"/>
@@ -1850,6 +3003,26 @@
         <location line="+1"/>
         <source>The name this terminal uses on the network.</source>
         <translation>Имя этого терминала в сети.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Network diagnosis</source>
+        <translation>Диагностика сети</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Check that a host answers over the network.</source>
+        <translation>Проверить, отвечает ли узел по сети.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Wi-Fi networks</source>
+        <translation>Сети Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Join a wireless network approved by your administrator.</source>
+        <translation>Подключиться к беспроводной сети, одобренной администратором.</translation>
     </message>
     <message>
         <location line="+4"/>
@@ -1960,6 +3133,16 @@
         <location line="+1"/>
         <source>Access to USB drives on this terminal and in sessions.</source>
         <translation>Доступ к USB-накопителям на этом терминале и в сеансах.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Shut down &amp; restart</source>
+        <translation>Выключение и перезагрузка</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Switch the terminal off or start it again.</source>
+        <translation>Выключить или перезагрузить терминал.</translation>
     </message>
     <message>
         <location line="+4"/>
@@ -2159,6 +3342,75 @@
     </message>
 </context>
 <context>
+    <name>SoundPage</name>
+    <message>
+        <location filename="../qml/vorplex/SoundPage.qml" line="+23"/>
+        <source>Output</source>
+        <translation>Вывод</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Where the terminal and its sessions play sound.</source>
+        <translation>Где терминал и его сеансы воспроизводят звук.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Output device</source>
+        <translation>Устройство вывода</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>No output device found</source>
+        <translation>Устройства вывода не найдены</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Volume</source>
+        <translation>Громкость</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <location line="+38"/>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <location line="-28"/>
+        <source>Test sound</source>
+        <translation>Проверить звук</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Microphone</source>
+        <translation>Микрофон</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The recording level of the microphone.</source>
+        <translation>Уровень записи микрофона.</translation>
+    </message>
+    <message>
+        <location line="+32"/>
+        <source>Test microphone</source>
+        <translation>Проверить микрофон</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Recording for three seconds, then playing it back...</source>
+        <translation>Запись в течение трёх секунд, затем воспроизведение...</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Done. Did you hear yourself?</source>
+        <translation>Готово. Вы себя услышали?</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Speak after pressing: three seconds are recorded and played back.</source>
+        <translation>Говорите после нажатия: три секунды записываются и воспроизводятся.</translation>
+    </message>
+</context>
+<context>
     <name>TeamsPopup</name>
     <message>
         <location filename="../qml/vorplex/TeamsPopup.qml" line="+33"/>
@@ -2354,6 +3606,54 @@
     </message>
 </context>
 <context>
+    <name>UsbStoragePage</name>
+    <message>
+        <location filename="../qml/vorplex/UsbStoragePage.qml" line="+32"/>
+        <source>USB storage</source>
+        <translation>USB-накопители</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>USB drives plugged into this terminal are opened and can be used in sessions.</source>
+        <translation>USB-накопители, подключённые к этому терминалу, открываются и доступны в сеансах.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>USB storage is on.</source>
+        <translation>USB-накопители включены.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>USB storage is off.</source>
+        <translation>USB-накопители выключены.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>USB devices</source>
+        <translation>USB-устройства</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Everything connected to this terminal&apos;s USB ports.</source>
+        <translation>Всё, что подключено к USB-портам этого терминала.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Unnamed device</source>
+        <translation>Безымянное устройство</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>No USB devices found</source>
+        <translation>USB-устройства не найдены</translation>
+    </message>
+</context>
+<context>
     <name>VMWareConnectDialog</name>
     <message>
         <location filename="../qml/vorplex/VMWareConnectDialog.qml" line="+33"/>
@@ -2474,6 +3774,456 @@
         <location line="+1"/>
         <source>Optional: the desktop pool to open</source>
         <translation>Необязательно: пул рабочих столов</translation>
+    </message>
+</context>
+<context>
+    <name>WallpaperPage</name>
+    <message>
+        <location filename="../qml/vorplex/WallpaperPage.qml" line="+26"/>
+        <source>Wallpaper set to %1.</source>
+        <translation>Установлены обои %1.</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>Current background</source>
+        <translation>Текущий фон</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The built-in background</source>
+        <translation>Встроенный фон</translation>
+    </message>
+    <message>
+        <location line="+27"/>
+        <source>Use the built-in background</source>
+        <translation>Использовать встроенный фон</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Pictures on USB drives</source>
+        <translation>Изображения на USB-накопителях</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>PNG and JPEG images on the drives connected to this terminal. The picture is copied to the terminal.</source>
+        <translation>Изображения PNG и JPEG на накопителях, подключённых к этому терминалу. Изображение копируется на терминал.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>%1 (not an image)</source>
+        <translation>%1 (не изображение)</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>No pictures found</source>
+        <translation>Изображения не найдены</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive with PNG or JPEG pictures, then refresh.</source>
+        <translation>Подключите USB-накопитель с изображениями PNG или JPEG и нажмите «Обновить».</translation>
+    </message>
+</context>
+<context>
+    <name>WallpapersManager</name>
+    <message>
+        <location filename="../src/settings/WallpapersManager.cpp" line="+78"/>
+        <source>The file %1 cannot be read.</source>
+        <translation>Не удаётся прочитать файл %1.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>%1 is not a PNG or JPEG image.</source>
+        <translation>%1 не является изображением PNG или JPEG.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>The image could not be copied to the terminal.</source>
+        <translation>Не удалось скопировать изображение на терминал.</translation>
+    </message>
+</context>
+<context>
+    <name>WifiPage</name>
+    <message>
+        <location filename="../qml/vorplex/WifiPage.qml" line="+29"/>
+        <location line="+214"/>
+        <source>Connecting to %1…</source>
+        <translation>Подключение к %1…</translation>
+    </message>
+    <message>
+        <location line="-179"/>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The radio is on.</source>
+        <translation>Радиомодуль включён.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>The radio is off.</source>
+        <translation>Радиомодуль выключен.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>This terminal has no Wi-Fi adapter.</source>
+        <translation>У этого терминала нет адаптера Wi-Fi.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Switching the radio on…</source>
+        <translation>Включение радиомодуля…</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Switching the radio off…</source>
+        <translation>Выключение радиомодуля…</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>Networks in range</source>
+        <translation>Сети в зоне действия</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Hidden networks are listed under the address of their access point.</source>
+        <translation>Скрытые сети отображаются по адресу их точки доступа.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>No networks found</source>
+        <translation>Сети не найдены</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Wi-Fi is off</source>
+        <translation>Wi-Fi выключен</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The list is refreshed every few seconds.</source>
+        <translation>Список обновляется каждые несколько секунд.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Switch the radio on to see networks in range.</source>
+        <translation>Включите радиомодуль, чтобы увидеть сети в зоне действия.</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Connected</source>
+        <translation>Подключено</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Signal %1 %</source>
+        <translation>Сигнал %1&#xa0;%</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Secured</source>
+        <translation>Защищённая</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Open</source>
+        <translation>Открытая</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <location line="+115"/>
+        <source>Connect</source>
+        <translation>Подключиться</translation>
+    </message>
+    <message>
+        <location line="-110"/>
+        <source>Disconnect</source>
+        <translation>Отключиться</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Disconnecting from %1…</source>
+        <translation>Отключение от %1…</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Saved networks</source>
+        <translation>Сохранённые сети</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Networks shown for users appear on the user&apos;s Wi-Fi list; one network can connect by itself at start.</source>
+        <translation>Сети, показанные пользователям, появляются в их списке Wi-Fi; одна сеть может подключаться сама при запуске.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>NAME</source>
+        <translation>ИМЯ</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>AUTO CONNECT</source>
+        <translation>АВТОПОДКЛЮЧЕНИЕ</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>SHOW FOR USER</source>
+        <translation>ДЛЯ ПОЛЬЗОВАТЕЛЯ</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>OPTIONS</source>
+        <translation>ПАРАМЕТРЫ</translation>
+    </message>
+    <message>
+        <location line="+20"/>
+        <source>No saved networks</source>
+        <translation>Нет сохранённых сетей</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Networks this terminal has joined are kept here.</source>
+        <translation>Здесь хранятся сети, к которым подключался этот терминал.</translation>
+    </message>
+    <message>
+        <location line="+28"/>
+        <source>Connect to %1 at start</source>
+        <translation>Подключаться к %1 при запуске</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Show %1 for users</source>
+        <translation>Показывать %1 пользователям</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Forget %1</source>
+        <translation>Забыть %1</translation>
+    </message>
+    <message>
+        <location line="+13"/>
+        <source>Connect to %1</source>
+        <translation>Подключение к %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the password of the network %1.</source>
+        <translation>Введите пароль сети %1.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <location line="+17"/>
+        <source>Forget network</source>
+        <translation>Забыть сеть</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Forget %1? The terminal will need the password again to join it.</source>
+        <translation>Забыть %1? Для подключения к ней терминалу снова понадобится пароль.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Forget</source>
+        <translation>Забыть</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Forgetting %1…</source>
+        <translation>Удаление %1…</translation>
+    </message>
+</context>
+<context>
+    <name>WifiUserPage</name>
+    <message>
+        <location filename="../qml/vorplex/WifiUserPage.qml" line="+32"/>
+        <source>Available networks</source>
+        <translation>Доступные сети</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Networks approved by your administrator that are in range.</source>
+        <translation>Одобренные администратором сети в зоне действия.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <source>No approved network in range</source>
+        <translation>Нет одобренных сетей в зоне действия</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Ask your administrator to approve a network for users.</source>
+        <translation>Попросите администратора одобрить сеть для пользователей.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Connected</source>
+        <translation>Подключено</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Not connected</source>
+        <translation>Не подключено</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Disconnect</source>
+        <translation>Отключиться</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Connect</source>
+        <translation>Подключиться</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Disconnecting from %1…</source>
+        <translation>Отключение от %1…</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Connecting to %1…</source>
+        <translation>Подключение к %1…</translation>
+    </message>
+</context>
+<context>
+    <name>WiredNetworkPage</name>
+    <message>
+        <location filename="../qml/vorplex/WiredNetworkPage.qml" line="+27"/>
+        <location line="+1"/>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>None</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <location line="+19"/>
+        <source>Enter an address such as 192.168.1.20.</source>
+        <translation>Введите адрес, например 192.168.1.20.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter a mask such as 255.255.255.0.</source>
+        <translation>Введите маску, например 255.255.255.0.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Enter an address, or leave it empty.</source>
+        <translation>Введите адрес или оставьте поле пустым.</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Applying the settings of %1…</source>
+        <translation>Применение настроек %1…</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Settings applied. The interface now reports the values shown.</source>
+        <translation>Настройки применены. Интерфейс теперь сообщает показанные значения.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <location line="+14"/>
+        <source>Interface</source>
+        <translation>Интерфейс</translation>
+    </message>
+    <message>
+        <location line="-13"/>
+        <source>The network adapter to configure and what it reports now.</source>
+        <translation>Настраиваемый сетевой адаптер и его текущие данные.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>No network interface found</source>
+        <translation>Сетевые интерфейсы не найдены</translation>
+    </message>
+    <message>
+        <location line="+10"/>
+        <location line="+26"/>
+        <source>Address</source>
+        <translation>Адрес</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <location line="+26"/>
+        <source>Subnet mask</source>
+        <translation>Маска подсети</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <location line="+26"/>
+        <source>Gateway</source>
+        <translation>Шлюз</translation>
+    </message>
+    <message>
+        <location line="-25"/>
+        <source>DNS servers</source>
+        <translation>DNS-серверы</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>IPv4 addressing</source>
+        <translation>Адресация IPv4</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Automatic takes address, gateway and DNS from the network&apos;s DHCP server.</source>
+        <translation>В автоматическом режиме адрес, шлюз и DNS берутся от DHCP-сервера сети.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Automatic (DHCP)</source>
+        <translation>Автоматически (DHCP)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Manual</source>
+        <translation>Вручную</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>DNS server 1</source>
+        <translation>DNS-сервер 1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DNS server 2</source>
+        <translation>DNS-сервер 2</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>DNS server 3</source>
+        <translation>DNS-сервер 3</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Apply</source>
+        <translation>Применить</translation>
     </message>
 </context>
 </TS>
