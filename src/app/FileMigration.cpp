@@ -53,14 +53,14 @@ void migrateFiles()
 
 void removeWriteLeftovers()
 {
-    static const QRegularExpression leftover(QStringLiteral("^(.+\\.lock|.+\\.[A-Za-z0-9]{6})$"));
+    static const QRegularExpression leftover(QStringLiteral("^(.+\\.lock(\\.rmlock)?|.+\\.[A-Za-z0-9]{6})$"));
     for (const QString& folder : {SystemPaths::dataFile(QString()), SystemPaths::dataFile(QStringLiteral("wallpaper"))}) {
         const QDir dir(folder);
         for (const QString& name : dir.entryList(QDir::Files | QDir::Hidden)) {
             if (!leftover.match(name).hasMatch())
                 continue;
             // A temporary copy is only recognised beside the file it was meant to replace.
-            const bool lock = name.endsWith(QLatin1String(".lock"));
+            const bool lock = name.endsWith(QLatin1String(".lock")) || name.endsWith(QLatin1String(".lock.rmlock"));
             if (!lock && !QFile::exists(dir.filePath(name.left(name.size() - 7))))
                 continue;
             qWarning().noquote() << "Removing what an interrupted write left:" << name;

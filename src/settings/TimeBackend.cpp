@@ -6,6 +6,7 @@
 #include "TimeZoneTable.h"
 
 #include <QDebug>
+#include <QLocale>
 #include <QSettings>
 
 namespace {
@@ -203,5 +204,6 @@ void TimeBackend::apply()
 
 QString TimeBackend::format(const QDateTime& dateTime, const QString& pattern) const
 {
-    return dateTime.toString(pattern);
+    // Day and month names in the display language (start-up sets the default locale with it).
+    return QLocale().toString(dateTime, pattern);
 }

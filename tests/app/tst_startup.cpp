@@ -104,11 +104,13 @@ private slots:
         // the temporary copy of a whole-file write that was not renamed into place.
         const QString lock = terminal.sandbox.dataFile(QStringLiteral("api.ini.lock"));
         const QString copy = terminal.sandbox.dataFile(QStringLiteral("hosts.Ab3dEf"));
+        const QString lockRemoval = terminal.sandbox.dataFile(QStringLiteral("display.ini.lock.rmlock"));
         const QString unrelated = terminal.sandbox.dataFile(QStringLiteral("notes.Ab3dEf"));
         if (damage == QLatin1String("leftovers")) {
             TestSandbox::writeFile(lock, "1\nnorbix-shell\n\n");
             TestSandbox::writeFile(terminal.sandbox.dataFile(QStringLiteral("hosts")), "127.0.0.1 localhost\n");
             TestSandbox::writeFile(copy, "127.0.0.1 local");
+            TestSandbox::writeFile(lockRemoval, "");
             TestSandbox::writeFile(unrelated, "kept: nothing of ours is called notes");
         }
 
@@ -120,6 +122,7 @@ private slots:
         if (damage == QLatin1String("leftovers")) {
             QVERIFY(!QFile::exists(lock));
             QVERIFY(!QFile::exists(copy));
+            QVERIFY(!QFile::exists(lockRemoval));
             QVERIFY(QFile::exists(unrelated));
             QVERIFY(terminal.log().contains(QStringLiteral("Removing what an interrupted write left: hosts.Ab3dEf")));
         }
