@@ -2,6 +2,7 @@
 // The first byte picks the entry point; the rest is the frame text.
 #include "APIManager.h"
 #include "ConnectionWire.h"
+#include "JsonText.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -39,7 +40,7 @@ void setUp()
 
 void checkWire(const QByteArray& text)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(text);
+    const QJsonDocument document = JsonText::parse(text);
     const QList<Connection> list = ConnectionWire::listFromWire(document.array());
     for (const Connection& connection : list) {
         const int type = connection.getTypeValue();

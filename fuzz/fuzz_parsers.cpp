@@ -6,6 +6,7 @@
 #include "ConnectionStore.h"
 #include "HardwareUtils.h"
 #include "InputParsers.h"
+#include "JsonText.h"
 #include "LanguageBackend.h"
 #include "LocalUpdaterBackend.h"
 #include "MouseSettingsBackend.h"
@@ -84,7 +85,7 @@ void nmcli(const QByteArray& text)
 void networksJson(const QByteArray& text)
 {
     using namespace NetworkParsers;
-    const QJsonArray networks = QJsonDocument::fromJson(text).array();
+    const QJsonArray networks = JsonText::parse(text).array();
     const QString ssid = networks.isEmpty() ? QStringLiteral("x")
                                             : networks.first().toObject().value(QLatin1String("ssid")).toString();
     const QJsonArray chosen = withAutoConnect(networks, ssid, true);

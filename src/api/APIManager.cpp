@@ -7,6 +7,7 @@
 #include "ConnectionWire.h"
 #include "HardwareUtils.h"
 #include "HeartbeatWorker.h"
+#include "JsonText.h"
 #include "NetworkParsers.h"
 #include "QmlSingleton.h"
 #include "SystemLoad.h"
@@ -441,7 +442,7 @@ void APIManager::updateSettings()
 
 void APIManager::handleRequest(const QString& text)
 {
-    const QJsonObject request = QJsonDocument::fromJson(text.toUtf8()).object();
+    const QJsonObject request = JsonText::parse(text.toUtf8()).object();
     qDebug().noquote() << "received: " + text;
     const QString action = request.value(kAction).toString();
 

@@ -1,6 +1,7 @@
 #include "ConnectionStore.h"
 
 #include "AtomicFile.h"
+#include "JsonText.h"
 #include "PasswordCipher.h"
 #include "SystemPaths.h"
 
@@ -27,7 +28,7 @@ QJsonArray readArray(bool* unreadable)
     if (bytes.trimmed().isEmpty())
         return {};
     QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    const QJsonDocument document = JsonText::parse(bytes, &error);
     if (!document.isArray()) {
         if (unreadable)
             *unreadable = true;

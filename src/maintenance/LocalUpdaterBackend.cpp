@@ -1,5 +1,6 @@
 #include "LocalUpdaterBackend.h"
 
+#include "JsonText.h"
 #include "SystemPaths.h"
 
 #include <QDirIterator>
@@ -15,7 +16,7 @@ namespace {
 std::optional<QJsonDocument> jsonOf(const QByteArray& body)
 {
     QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(body, &error);
+    const QJsonDocument document = JsonText::parse(body, &error);
     if (error.error != QJsonParseError::NoError)
         return std::nullopt;
     return document;

@@ -1,5 +1,6 @@
 #include "SimulatedTerminal.h"
 
+#include "JsonText.h"
 #include "SimulatedCertificates.h"
 #include "SimulatedDevices.h"
 #include "SimulatedDisplays.h"
@@ -185,7 +186,7 @@ QByteArray SimulatedTerminal::fixture(const QString& name)
 SimulatedTerminal::SimulatedTerminal()
 {
     initFixtureResources();
-    m_rules = QJsonDocument::fromJson(fixture(QStringLiteral("commands.json"))).array();
+    m_rules = JsonText::parse(fixture(QStringLiteral("commands.json"))).array();
     prepareSandbox();
 }
 

@@ -1,6 +1,7 @@
 #include "HardwareUtils.h"
 
 #include "CommandRunner.h"
+#include "JsonText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -34,7 +35,7 @@ HardwareInventory HardwareUtils::parseInventory(const QByteArray& lshwJson)
 {
     HardwareInventory result;
     QList<QJsonObject> nodes;
-    const QJsonDocument document = QJsonDocument::fromJson(lshwJson);
+    const QJsonDocument document = JsonText::parse(lshwJson);
     collect(document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object()), nodes);
 
     const QJsonObject* best = nullptr;

@@ -2,6 +2,7 @@
 
 #include "AtomicFile.h"
 #include "CommandRunner.h"
+#include "JsonText.h"
 #include "SettingsChange.h"
 #include "SystemBus.h"
 #include "SystemPaths.h"
@@ -491,7 +492,7 @@ QJsonArray NetworkManager::readNetworks()
     }
     const QByteArray content = file.readAll();
     QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(content, &error);
+    const QJsonDocument document = JsonText::parse(content, &error);
     if (error.error == QJsonParseError::NoError && document.isArray())
         return document.array();
     const QString aside = file.fileName() + QStringLiteral(".corrupt");
