@@ -26,6 +26,9 @@ Rectangle {
     property bool helpAvailable: false
     property bool helpAnswered: false
 
+    // NetworkManager says no device is connected.
+    readonly property bool networkOffline: networkBadge.status.offline
+
     signal settingsRequested()
     signal connectionSettingsRequested()
     signal helpRequested()
@@ -122,6 +125,17 @@ Rectangle {
             anchors.rightMargin: Theme.spacingXxl
             anchors.verticalCenter: parent.verticalCenter
             spacing: Theme.spacingS
+
+            NetworkStatusBadge {
+                id: networkBadge
+                anchors.verticalCenter: parent.verticalCenter
+                managed: root.helpAvailable
+            }
+
+            Item {
+                width: Theme.spacingS
+                height: 1
+            }
 
             NxButton {
                 visible: root.helpAvailable

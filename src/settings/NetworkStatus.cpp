@@ -34,6 +34,7 @@ NetworkStatus::State NetworkStatus::parseDeviceStatus(const QByteArray& output)
     const int connectionAt = head.indexOf(QLatin1String("CONNECTION"));
     if (typeAt < 0 || stateAt < typeAt || connectionAt < stateAt)
         return state;
+    state.known = true;
     QString wifiName;
     bool wifi = false;
     for (int i = header + 1; i < lines.size(); ++i) {
@@ -73,7 +74,7 @@ QString NetworkStatus::describe(const State& state)
     case NoNetwork:
         break;
     }
-    return tr("No network");
+    return state.known ? tr("No network") : tr("Network state unknown");
 }
 
 void NetworkStatus::refresh()

@@ -13,6 +13,8 @@ class NetworkStatus : public QObject {
     Q_PROPERTY(bool online READ isOnline NOTIFY changed)
     Q_PROPERTY(QString networkName READ networkName NOTIFY changed)
     Q_PROPERTY(QString text READ text NOTIFY changed)
+    // NetworkManager answered and no device is connected: starting a connection is pointless.
+    Q_PROPERTY(bool offline READ isOffline NOTIFY changed)
 public:
     enum Kind { NoNetwork = 0, Wired, WiFi };
     Q_ENUM(Kind)
@@ -21,7 +23,8 @@ public:
     struct State {
         Kind kind = NoNetwork;
         QString name; // the Wi-Fi network's (profile) name; empty for the others
-        bool operator==(const State& other) const { return kind == other.kind && name == other.name; }
+        bool known = false; // NetworkManager's table was read; without it nothing is claimed
+        bool operator==(const State& other) const { return kind == other.kind && name == other.name && known == other.known; }
         bool operator!=(const State& other) const { return !(*this == other); }
     };
 
@@ -39,6 +42,7 @@ public:
 
     int kind() const { return m_state.kind; }
     bool isOnline() const { return m_state.kind != NoNetwork; }
+    bool isOffline() const { return m_state.known && m_state.kind == NoNetwork; }
     QString networkName() const { return m_state.name; }
     QString text() const { return describe(m_state); }
     State state() const { return m_state; }
