@@ -205,7 +205,7 @@ ConnectionCheck::Target ConnectionCheck::parseAddress(int connectionType, const 
 
 QString ConnectionCheck::formatDate(const QDateTime& when)
 {
-    return QLocale().toString(when.toUTC().date(), QLocale::LongFormat);
+    return QLocale().toString(when.toUTC().date(), QStringLiteral("d MMMM yyyy"));
 }
 
 QString ConnectionCheck::stepName(Step step, quint16 port)

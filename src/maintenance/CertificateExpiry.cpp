@@ -37,7 +37,8 @@ CertificateExpiry::State CertificateExpiry::classify(const QDateTime& notAfter, 
 
 QString CertificateExpiry::describe(State state, const QDateTime& notAfter)
 {
-    const QString date = QLocale().toString(notAfter.toUTC().date(), QLocale::LongFormat);
+    // Short enough for the table column: "1 Feb 2020" in the user's language.
+    const QString date = QLocale().toString(notAfter.toUTC().date(), QStringLiteral("d MMM yyyy"));
     switch (state) {
     case Expired:
         return tr("Expired on %1").arg(date);
