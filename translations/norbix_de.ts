@@ -1012,6 +1012,16 @@
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
+    <message>
+        <location filename="../qml/vorplex/ConnectionTile.qml" line="+69"/>
+        <source>More actions for %1</source>
+        <translation>Weitere Aktionen für %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Test connection</source>
+        <translation>Verbindung testen</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionsPage</name>
@@ -1480,6 +1490,11 @@
         <location line="+2"/>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <location filename="../qml/vorplex/Main.qml" line="+64"/>
+        <source>This terminal has no network connection. Check the network cable or the Wi-Fi, then try again.</source>
+        <translation>Dieses Terminal hat keine Netzwerkverbindung. Prüfen Sie das Netzwerkkabel oder das WLAN und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
@@ -2471,6 +2486,296 @@
         <location line="+1"/>
         <source>Optional: the desktop pool to open</source>
         <translation>Optional: der zu öffnende Desktop-Pool</translation>
+    </message>
+</context>
+<context>
+    <name>AssistanceBanner</name>
+    <message>
+        <location filename="../qml/vorplex/AssistanceBanner.qml" line="+35"/>
+        <source>Remote assistance active</source>
+        <translation>Fernwartung aktiv</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>End assistance</source>
+        <translation>Fernwartung beenden</translation>
+    </message>
+</context>
+<context>
+    <name>CertificateCountBadge</name>
+    <message numerus="yes">
+        <location filename="../qml/vorplex/CertificateCountBadge.qml" line="+16"/>
+        <source>%n certificate(s) expired or expiring soon</source>
+        <translation>
+            <numerusform>%n Zertifikat abgelaufen oder läuft bald ab</numerusform>
+            <numerusform>%n Zertifikate abgelaufen oder laufen bald ab</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CertificateExpiry</name>
+    <message>
+        <location filename="../src/maintenance/CertificateExpiry.cpp" line="+44"/>
+        <source>Expired on %1</source>
+        <translation>Abgelaufen am %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Expires on %1</source>
+        <translation>Läuft am %1 ab</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCheck</name>
+    <message>
+        <location filename="../src/connectors/ConnectionCheck.cpp" line="+215"/>
+        <source>Reading the address</source>
+        <translation>Adresse wird gelesen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Finding the server</source>
+        <translation>Server wird gesucht</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Connecting to port %1</source>
+        <translation>Verbindung mit Port %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Secure handshake</source>
+        <translation>Sicherer Verbindungsaufbau</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Enter the server&apos;s address first</source>
+        <translation>Geben Sie zuerst die Adresse des Servers ein</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The address must not contain spaces</source>
+        <translation>Die Adresse darf keine Leerzeichen enthalten</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enter the server&apos;s name or address without &quot;%1&quot; in front</source>
+        <translation>Geben Sie den Namen oder die Adresse des Servers ohne „%1“ davor ein</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Only https:// and http:// addresses can be checked, not &quot;%1&quot;</source>
+        <translation>Nur https://- und http://-Adressen können geprüft werden, nicht „%1“</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The port must be a number from 1 to 65535</source>
+        <translation>Der Port muss eine Zahl von 1 bis 65535 sein</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a valid server name or address</source>
+        <translation>„%1“ ist kein gültiger Servername und keine gültige Adresse</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a valid IPv6 address; write it in brackets to add a port, like [2001:db8::1]:3389</source>
+        <translation>„%1“ ist keine gültige IPv6-Adresse; setzen Sie sie in eckige Klammern, um einen Port anzugeben, z. B. [2001:db8::1]:3389</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>This kind of connection cannot be checked</source>
+        <translation>Diese Art von Verbindung kann nicht geprüft werden</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server name cannot be found</source>
+        <translation>Der Servername wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nothing answers on port %1</source>
+        <translation>Auf Port %1 antwortet nichts</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server does not answer on port %1</source>
+        <translation>Der Server antwortet nicht auf Port %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server cannot be reached: %1</source>
+        <translation>Der Server ist nicht erreichbar: %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers on port %1 but the secure handshake failed: %2</source>
+        <translation>Der Server antwortet auf Port %1, aber der sichere Verbindungsaufbau ist fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers but its certificate expired on %1</source>
+        <translation>Der Server antwortet, aber sein Zertifikat ist am %1 abgelaufen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers but its certificate is only valid from %1</source>
+        <translation>Der Server antwortet, aber sein Zertifikat ist erst ab %1 gültig</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The server answers but its certificate is self-signed and not trusted by this terminal</source>
+        <translation>Der Server antwortet, aber sein Zertifikat ist selbst signiert und wird von diesem Terminal nicht als vertrauenswürdig eingestuft</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The server answers but its certificate is not trusted by this terminal</source>
+        <translation>Der Server antwortet, aber dieses Terminal vertraut seinem Zertifikat nicht</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The check was cancelled</source>
+        <translation>Die Prüfung wurde abgebrochen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers and its certificate is valid until %1</source>
+        <translation>Der Server antwortet und sein Zertifikat ist bis %1 gültig</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The server answers on port %1</source>
+        <translation>Der Server antwortet auf Port %1</translation>
+    </message>
+    <message>
+        <location line="+120"/>
+        <source>no answer</source>
+        <translation>keine Antwort</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCheckDialog</name>
+    <message>
+        <location filename="../qml/vorplex/ConnectionCheckDialog.qml" line="+25"/>
+        <source>Test connection</source>
+        <translation>Verbindung testen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Checking whether “%1” can be reached.</source>
+        <translation>Es wird geprüft, ob „%1“ erreichbar ist.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancel check</source>
+        <translation>Prüfung abbrechen</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Step that failed: %1</source>
+        <translation>Fehlgeschlagener Schritt: %1</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Certificate issued to</source>
+        <translation>Zertifikat ausgestellt für</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Issued by</source>
+        <translation>Ausgestellt von</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valid until</source>
+        <translation>Gültig bis</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkStatus</name>
+    <message>
+        <location filename="../src/settings/NetworkStatus.cpp" line="+71"/>
+        <source>Wired network</source>
+        <translation>Kabelnetzwerk</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Wi-Fi: %1</source>
+        <translation>WLAN: %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>No network</source>
+        <translation>Kein Netzwerk</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Network state unknown</source>
+        <translation>Netzwerkstatus unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkStatusBadge</name>
+    <message>
+        <location filename="../qml/vorplex/NetworkStatusBadge.qml" line="+46"/>
+        <source>Management server reached</source>
+        <translation>Verwaltungsserver erreichbar</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Management server not reached</source>
+        <translation>Verwaltungsserver nicht erreichbar</translation>
+    </message>
+</context>
+<context>
+    <name>TestConnectionButton</name>
+    <message>
+        <location filename="../qml/vorplex/TestConnectionButton.qml" line="+13"/>
+        <source>Test connection</source>
+        <translation>Verbindung testen</translation>
+    </message>
+</context>
+<context>
+    <name>VNCPasswordDialog</name>
+    <message>
+        <location filename="../qml/vorplex/VNCPasswordDialog.qml" line="+30"/>
+        <source>VNC password</source>
+        <translation>VNC-Passwort</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the VNC password for “%1”.</source>
+        <translation>Geben Sie das VNC-Passwort für „%1“ ein.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the VNC password to start the session.</source>
+        <translation>Geben Sie das VNC-Passwort ein, um die Sitzung zu starten.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Password can&apos;t be empty</source>
+        <translation>Das Passwort darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Password</source>
+        <translation>Passwort</translation>
     </message>
 </context>
 </TS>
