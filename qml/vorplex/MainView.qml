@@ -126,17 +126,6 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             spacing: Theme.spacingS
 
-            NetworkStatusBadge {
-                id: networkBadge
-                anchors.verticalCenter: parent.verticalCenter
-                managed: root.helpAvailable
-            }
-
-            Item {
-                width: Theme.spacingS
-                height: 1
-            }
-
             NxButton {
                 visible: root.helpAvailable
                 kind: "onDark"
@@ -294,6 +283,12 @@ Rectangle {
             color: Theme.textMuted
             font.family: Theme.fontFamily
             font.pixelSize: Theme.fontSmall
+        }
+
+        NetworkStatusBadge {
+            id: networkBadge
+            anchors.centerIn: parent
+            managed: root.helpAvailable
         }
 
         Text {

@@ -21,7 +21,7 @@ RowLayout {
     NxIcon {
         Layout.alignment: Qt.AlignVCenter
         name: network.kind === NetworkStatus.WiFi ? "wifi" : "network"
-        color: network.online ? Theme.navyTextStrong : Theme.danger
+        color: network.offline ? Theme.danger : Theme.textSecondary
         size: 18
     }
 
@@ -33,7 +33,7 @@ RowLayout {
         Text {
             width: Math.min(implicitWidth, 260)
             text: network.text
-            color: network.online ? Theme.navyTextStrong : "#FFB4B4"
+            color: network.offline ? Theme.danger : Theme.textSecondary
             font.family: Theme.fontFamily
             font.pixelSize: Theme.fontSmall
             font.weight: Font.DemiBold
@@ -44,7 +44,7 @@ RowLayout {
             width: Math.min(implicitWidth, 260)
             visible: badge.managed
             text: APIManager.connected ? qsTr("Management server reached") : qsTr("Management server not reached")
-            color: Theme.navyText
+            color: APIManager.connected ? Theme.textMuted : Theme.warning
             font.family: Theme.fontFamily
             font.pixelSize: Theme.fontCaption
             elide: Text.ElideRight
