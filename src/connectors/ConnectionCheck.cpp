@@ -4,6 +4,8 @@
 #include "ConnectionStore.h"
 
 #include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
 #include <QHostInfo>
 #include <QLocale>
 #include <QLoggingCategory>
@@ -126,9 +128,7 @@ ConnectionCheck::Certificate describe(const QSslCertificate& cert, const QList<Q
 
 } // namespace
 
-ConnectionCheck::ConnectionCheck(QObject* parent) : QObject(parent), m_resolver(&ConnectionCheck::systemResolve)
-{
-}
+ConnectionCheck::ConnectionCheck(QObject* parent) : QObject(parent) {}
 
 ConnectionCheck::~ConnectionCheck()
 {
@@ -286,14 +286,38 @@ QString ConnectionCheck::message(const Report& report)
     return tr("The server answers on port %1").arg(port);
 }
 
-QList<QHostAddress> ConnectionCheck::systemResolve(const QString& host)
+QList<QHostAddress> ConnectionCheck::systemResolve(const QString& host, const std::atomic_bool* cancelled)
 {
     if (host.endsWith(QLatin1String(".invalid"), Qt::CaseInsensitive)
         || host.endsWith(QLatin1String(".invalid."), Qt::CaseInsensitive)
         || host.compare(QLatin1String("invalid"), Qt::CaseInsensitive) == 0)
         return {};
-    const QHostInfo info = QHostInfo::fromName(host);
-    return info.error() == QHostInfo::NoError ? info.addresses() : QList<QHostAddress>{};
+    if (cancelled && *cancelled)
+        return {};
+    // Asked in the background and waited for in slices, so that a cancel (or a dialog that goes
+    // away) does not have to sit out a resolver that takes its time.
+    QEventLoop loop;
+    QObject receiver;
+    QList<QHostAddress> found;
+    bool done = false;
+    const int id = QHostInfo::lookupHost(host, &receiver, [&](const QHostInfo& info) {
+        if (info.error() == QHostInfo::NoError)
+            found = info.addresses();
+        done = true;
+        loop.quit();
+    });
+    QTimer poll;
+    poll.setInterval(kSliceMs);
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&]() {
+        if (cancelled && *cancelled)
+            loop.quit();
+    });
+    poll.start();
+    if (!done)
+        loop.exec();
+    if (!done)
+        QHostInfo::abortHostLookup(id);
+    return found;
 }
 
 namespace {
@@ -345,8 +369,8 @@ ConnectionCheck::Report ConnectionCheck::probe(const Target& target, const Resol
     const QHostAddress literal(target.host);
     if (!literal.isNull())
         addresses = {literal};
-    else if (resolver)
-        addresses = resolver(target.host);
+    else
+        addresses = resolver ? resolver(target.host) : systemResolve(target.host, &cancelled);
     if (cancelled)
         return cancel();
     if (addresses.isEmpty())

@@ -82,7 +82,8 @@ public:
         Certificate certificate;
     };
 
-    // Addresses of a name; empty when it cannot be found. Runs on the check's thread.
+    // Addresses of a name; empty when it cannot be found. Runs on the check's thread. Unset, the
+    // system's resolver answers.
     using Resolver = std::function<QList<QHostAddress>(const QString& host)>;
 
     explicit ConnectionCheck(QObject* parent = nullptr);
@@ -98,11 +99,13 @@ public:
     static QString formatDate(const QDateTime& when);
     // The certificate's verdict at `now`: expired, not yet valid, untrusted, or fine.
     static Problem certificateProblem(const Certificate& certificate, const QDateTime& now);
-    // Runs every step in the calling thread. `cancelled` is polled between short waits.
+    // Runs every step in the calling thread. `cancelled` is polled between short waits. An empty
+    // resolver means the system's.
     static Report probe(const Target& target, const Resolver& resolver, const std::atomic_bool& cancelled,
                         int timeoutMs, const std::function<void(Step)>& progress = {});
-    // Name lookup through the system; names under ".invalid" never resolve (and are not asked).
-    static QList<QHostAddress> systemResolve(const QString& host);
+    // Name lookup through the system, given up as soon as `cancelled` is set; names under
+    // ".invalid" never resolve (and are not asked).
+    static QList<QHostAddress> systemResolve(const QString& host, const std::atomic_bool* cancelled = nullptr);
 
     // Starts a check of `address` for a connection of that kind; false (with the result set)
     // when the address is refused before anything runs.

@@ -310,6 +310,20 @@ private slots:
     {
         QVERIFY(ConnectionCheck::systemResolve("nowhere.invalid").isEmpty());
         QVERIFY(ConnectionCheck::systemResolve("deep.NOWHERE.INVALID.").isEmpty());
+        // A lookup already given up asks nobody.
+        std::atomic_bool cancelled{true};
+        QVERIFY(ConnectionCheck::systemResolve("localhost", &cancelled).isEmpty());
+    }
+
+    // The system's resolver from the check's own thread: "localhost" comes from the hosts file.
+    void systemResolverOnTheCheckThread()
+    {
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        ConnectionCheck check; // no resolver set: the system's
+        QVERIFY(check.start(VNC, "localhost:" + QString::number(server.serverPort())));
+        const ConnectionCheck::Report report = waitForReport(check);
+        QCOMPARE(report.outcome, ConnectionCheck::Passed);
     }
 
     // Real peers on 127.0.0.1; names come from the test's own resolver only.
