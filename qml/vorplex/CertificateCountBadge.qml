@@ -20,11 +20,18 @@ Rectangle {
         Component.onCompleted: refresh()
     }
 
-    // The list stays up for a long time; look again now and then.
+    // The settings list is on screen (its loader is visible only then): look again when it comes
+    // up, after an import or a removal, and now and then while it stays.
+    readonly property bool shown: parent ? parent.visible : false
+    onShownChanged: {
+        if (shown)
+            expiry.refresh();
+    }
+
     Timer {
-        interval: 600000
+        interval: 30000
         repeat: true
-        running: true
+        running: badge.shown
         onTriggered: expiry.refresh()
     }
 
