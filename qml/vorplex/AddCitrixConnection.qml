@@ -90,6 +90,12 @@ FormPage {
     Card {
         Layout.fillWidth: true
         title: qsTr("Connection")
+        headerActions: [
+            TestConnectionButton {
+                kindName: "citrix"
+                address: serverField.text
+            }
+        ]
 
         GridLayout {
             Layout.fillWidth: true

@@ -62,6 +62,12 @@ FormPage {
     Card {
         Layout.fillWidth: true
         title: qsTr("Connection")
+        headerActions: [
+            TestConnectionButton {
+                kindName: "putty"
+                address: hostField.text
+            }
+        ]
 
         FormField {
             id: nameField

@@ -88,6 +88,12 @@ FormPage {
     Card {
         Layout.fillWidth: true
         title: qsTr("Connection")
+        headerActions: [
+            TestConnectionButton {
+                kindName: "rdp"
+                address: addressField.text
+            }
+        ]
 
         GridLayout {
             Layout.fillWidth: true

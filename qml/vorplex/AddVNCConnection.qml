@@ -86,6 +86,12 @@ FormPage {
     Card {
         Layout.fillWidth: true
         title: qsTr("Connection")
+        headerActions: [
+            TestConnectionButton {
+                kindName: "vnc"
+                address: addressField.text
+            }
+        ]
 
         GridLayout {
             Layout.fillWidth: true

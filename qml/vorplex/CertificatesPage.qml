@@ -215,13 +215,28 @@ PageScaffold {
                             font.pixelSize: Theme.fontSmall
                             elide: Text.ElideRight
                         }
-                        Text {
+                        Column {
                             Layout.preferredWidth: 190
-                            text: model.notAfter
-                            color: Theme.textSecondary
-                            font.family: Theme.fontFamily
-                            font.pixelSize: Theme.fontSmall
-                            elide: Text.ElideRight
+                            spacing: 2
+                            Text {
+                                width: parent.width
+                                text: model.notAfter
+                                color: Theme.textSecondary
+                                font.family: Theme.fontFamily
+                                font.pixelSize: Theme.fontSmall
+                                elide: Text.ElideRight
+                            }
+                            // Expired (3) or expiring within 30 days (2), with the date.
+                            Text {
+                                width: parent.width
+                                visible: model.expiryText !== ""
+                                text: model.expiryText
+                                color: model.expiryState === 3 ? Theme.danger : Theme.warning
+                                font.family: Theme.fontFamily
+                                font.pixelSize: Theme.fontCaption
+                                font.weight: Font.DemiBold
+                                elide: Text.ElideRight
+                            }
                         }
                         Item {
                             Layout.preferredWidth: 104

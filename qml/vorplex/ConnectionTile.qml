@@ -12,6 +12,9 @@ AbstractButton {
     property string address
     property bool autoConnect: false
 
+    // "Test connection" from the tile's menu.
+    signal checkRequested()
+
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     implicitWidth: 272
@@ -54,6 +57,27 @@ AbstractButton {
 
             Item {
                 Layout.fillWidth: true
+            }
+
+            IconButton {
+                id: menuButton
+                Layout.alignment: Qt.AlignTop
+                // Only kinds with a server to reach can be checked.
+                visible: tile.kind === kinds.rdp || tile.kind === kinds.vnc || tile.kind === kinds.vmware
+                         || tile.kind === kinds.citrix || tile.kind === kinds.putty
+                iconName: "chevron-down"
+                Accessible.name: qsTr("More actions for %1").arg(tile.name)
+                onClicked: tileMenu.popup(menuButton, 0, menuButton.height)
+
+                NxMenu {
+                    id: tileMenu
+
+                    NxMenuItem {
+                        iconName: "network"
+                        text: qsTr("Test connection")
+                        onTriggered: tile.checkRequested()
+                    }
+                }
             }
 
             Rectangle {

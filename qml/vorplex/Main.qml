@@ -14,6 +14,8 @@
  *   citrix-progress         home screen with the Citrix progress popup open, showing a sample message
  *   remote-request          home screen with a sample remote-assistance request (accepted on timeout)
  *   help-answered           home screen, managed, after the server answered a help request
+ *   connection-check        home screen checking the first record's server
+ *   vnc-password            home screen with the VNC password prompt open for the first record
  *   settings/<section>      any settings section, unlocked. Sections:
  *                           connections, network-wired, network-wifi, network-8021x, hostname,
  *                           displays, power, datetime, sound, keyboard, mouse, language, wallpaper,
@@ -58,6 +60,14 @@ ApplicationWindow {
     // A tile was clicked: complete records start at once, RDP records without stored
     // credentials ask for them, other incomplete ones open their form.
     function activateConnection(index) {
+        if (mainView.networkOffline) {
+            showError(qsTr("This terminal has no network connection. Check the network cable or the Wi-Fi, then try again."));
+            return;
+        }
+        if (vncPassword.needsPrompt(index)) {
+            vncPassword.openFor(index);
+            return;
+        }
         if (ConnectionManager.isConnectionFull(index)) {
             if (!ConnectionManager.connectToIndex(index))
                 showError(qsTr("Failed to connect"));
@@ -109,6 +119,15 @@ ApplicationWindow {
         }
         if (page === "remote-request") {
             remotePopup.showPopup(0, 1, qsTr("Support desk"), qsTr("Alex from IT support would like to see your screen to help with your ticket."), 30, "", "");
+            return;
+        }
+        if (page === "connection-check") {
+            if (ConnectionManager.listConnectionNames().length > 0)
+                connectionCheck.checkIndex(0, ConnectionManager.listConnectionNames()[0]);
+            return;
+        }
+        if (page === "vnc-password") {
+            vncPassword.openFor(0);
             return;
         }
         if (page === "help-answered") {
@@ -168,6 +187,7 @@ ApplicationWindow {
                 address: record ? record.address : ""
                 autoConnect: record ? record.autoConnect : false
                 onClicked: window.activateConnection(index)
+                onCheckRequested: connectionCheck.checkIndex(index, name)
             }
         }
         onSettingsRequested: window.showSettings("")
@@ -189,7 +209,10 @@ ApplicationWindow {
         target: ConnectionManager
 
         function onOpenPasswordPopup(index) {
-            rdpLogin.openFor(index);
+            if (vncPassword.needsPrompt(index))
+                vncPassword.openFor(index);
+            else
+                rdpLogin.openFor(index);
         }
     }
 
@@ -246,5 +269,21 @@ ApplicationWindow {
 
     AdminConnectionPopup {
         id: remotePopup
+    }
+
+    VNCPasswordDialog {
+        id: vncPassword
+        onFailed: window.showError(qsTr("Failed to connect"))
+    }
+
+    ConnectionCheckDialog {
+        id: connectionCheck
+    }
+
+    AssistanceBanner {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 56
+        z: 100
     }
 }

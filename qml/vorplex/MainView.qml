@@ -26,6 +26,9 @@ Rectangle {
     property bool helpAvailable: false
     property bool helpAnswered: false
 
+    // NetworkManager says no device is connected.
+    readonly property bool networkOffline: networkBadge.status.offline
+
     signal settingsRequested()
     signal connectionSettingsRequested()
     signal helpRequested()
@@ -280,6 +283,12 @@ Rectangle {
             color: Theme.textMuted
             font.family: Theme.fontFamily
             font.pixelSize: Theme.fontSmall
+        }
+
+        NetworkStatusBadge {
+            id: networkBadge
+            anchors.centerIn: parent
+            managed: root.helpAvailable
         }
 
         Text {

@@ -199,6 +199,14 @@ Item {
                                 locked: modelData.admin && !root.adminUnlocked
                                 selected: root.currentSection === modelData.id
                                 onClicked: root.showSection(modelData.id)
+
+                                Loader {
+                                    anchors.right: parent.right
+                                    anchors.rightMargin: 36
+                                    anchors.verticalCenter: parent.verticalCenter
+                                    active: modelData.id === "certificates"
+                                    source: "CertificateCountBadge.qml"
+                                }
                                 onSelectedChanged: {
                                     if (selected) {
                                         root.selectedNavItem = this;

@@ -75,6 +75,12 @@ FormPage {
     Card {
         Layout.fillWidth: true
         title: qsTr("Connection")
+        headerActions: [
+            TestConnectionButton {
+                kindName: "vmware"
+                address: addressField.text
+            }
+        ]
 
         GridLayout {
             Layout.fillWidth: true

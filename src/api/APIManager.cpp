@@ -1,4 +1,5 @@
 #include "APIManager.h"
+#include "AssistanceTunnels.h"
 
 #include "APICollectorThread.h"
 #include "AtomicFile.h"
@@ -637,7 +638,8 @@ QStringList APIManager::tunnelArguments(const QString& host, const QString& port
 void APIManager::openTunnel(const QString& token, const QString& port)
 {
     const QString host = tunnelHost(getUrl());
-    CommandRunner::instance().startDetached(QLatin1String(kTunnelProgram), tunnelArguments(host, port, token));
+    // Watched, so that the screens can show that assistance runs and let the user end it.
+    AssistanceTunnels::getInstance()->start(QLatin1String(kTunnelProgram), tunnelArguments(host, port, token));
     qDebug().noquote() << QLatin1String(kTunnelProgram) + QStringLiteral(" --src ") + host + QLatin1Char(':') + port
             + QStringLiteral(" --dst ") + QLatin1String(kLocalVncServer) + QStringLiteral(" --token ") + token;
     qInfo() << "Remote connection accepted";

@@ -31,6 +31,11 @@
 #include "VNCConnectDialogBackend.h"
 #include "VNCConnector.h"
 #include "WallpapersManager.h"
+#include "AssistanceTunnels.h"
+#include "CertificateExpiry.h"
+#include "ConnectionCheck.h"
+#include "NetworkStatus.h"
+#include "VNCPasswordBackend.h"
 
 #include <QtQml>
 
@@ -69,6 +74,11 @@ void registerQmlTypes()
     qmlRegisterType<NetworkManager>("com.NetworkManager", 1, 0, "NetworkManager");
     qmlRegisterType<PingManager>("com.PingManager", 1, 0, "PingManager");
     qmlRegisterType<RemoteAssistanceBackend>("com.RemoteAssistanceBackend", 1, 0, "RemoteAssistanceBackend");
+    qmlRegisterType<ConnectionCheck>("com.ConnectionCheck", 1, 0, "ConnectionCheck");
+    qmlRegisterType<NetworkStatus>("com.NetworkStatus", 1, 0, "NetworkStatus");
+    qmlRegisterType<CertificateExpiry>("com.CertificateExpiry", 1, 0, "CertificateExpiry");
+    qmlRegisterType<VNCPasswordBackend>("com.VNCPasswordBackend", 1, 0, "VNCPasswordBackend");
+    qmlRegisterSingletonType<AssistanceTunnels>("com.AssistanceTunnels", 1, 0, "AssistanceTunnels", &AssistanceTunnels::qmlInstance);
 }
 
 void ContextObjects::publish(QQmlContext* context)

@@ -1,5 +1,6 @@
 #include "CertificatesModel.h"
 
+#include "CertificateExpiry.h"
 #include "CertificatesStorage.h"
 
 namespace {
@@ -46,6 +47,12 @@ QVariant CertificatesModel::data(const QModelIndex& index, int role) const
         return row.notAfter;
     case DeleteRole:
         return row.fileName;
+    case ExpiryStateRole:
+        return CertificateExpiry::classify(row.notAfter, QDateTime::currentDateTimeUtc());
+    case ExpiryTextRole: {
+        const QDateTime notAfter = CertificateExpiry::parseOpensslDate(row.notAfter);
+        return CertificateExpiry::describe(CertificateExpiry::classify(notAfter, QDateTime::currentDateTimeUtc()), notAfter);
+    }
     default:
         return {};
     }
@@ -53,7 +60,8 @@ QVariant CertificatesModel::data(const QModelIndex& index, int role) const
 
 QHash<int, QByteArray> CertificatesModel::roleNames() const
 {
-    return {{TableDataRole, "display"}, {NameRole, "name"}, {NotBeforeRole, "notBefore"}, {NotAfterRole, "notAfter"}, {DeleteRole, "fileName"}};
+    return {{TableDataRole, "display"}, {NameRole, "name"}, {NotBeforeRole, "notBefore"}, {NotAfterRole, "notAfter"}, {DeleteRole, "fileName"},
+            {ExpiryStateRole, "expiryState"}, {ExpiryTextRole, "expiryText"}};
 }
 
 QVariant CertificatesModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -20,7 +20,8 @@ public:
         }
     };
 
-    enum Roles { TableDataRole = Qt::UserRole + 1, NameRole, NotBeforeRole, NotAfterRole, DeleteRole };
+    enum Roles { TableDataRole = Qt::UserRole + 1, NameRole, NotBeforeRole, NotAfterRole, DeleteRole,
+                 ExpiryStateRole, ExpiryTextRole };
 
     explicit CertificatesModel(QObject* parent = nullptr);
 

@@ -106,7 +106,7 @@ private slots:
         m_peer.send(R"({"action":"remote","id":44,"data":{"type":2,"port":"41234","token":"f00d","title":"","text":"","timeout":0}})");
         QCOMPARE(m_peer.received(), (QJsonObject{{"action", "remote"}, {"id", 44}, {"data", QJsonObject{{"status", "ok"}}}}));
         const QList<QByteArray> log = TestSandbox::readFile(m_sandbox->dataFile("commands.jsonl")).split('\n');
-        QVERIFY(log.contains(R"({"args":["--src","127.0.0.1:41234","--dst","127.0.0.1:5900","--token","f00d"],"detached":true,"program":"/opt/norbix/tools/tunnel"})"));
+        QVERIFY(log.contains(R"({"args":["--src","127.0.0.1:41234","--dst","127.0.0.1:5900","--token","f00d"],"detached":false,"program":"/opt/norbix/tools/tunnel"})"));
     }
 
     void helpBothWays()

@@ -61,7 +61,7 @@ private slots:
         shell.kill();
         shell.waitForFinished();
         const QList<QByteArray> commands = TestSandbox::readFile(commandLog).split('\n');
-        QVERIFY(commands.contains(R"({"args":["--src","127.0.0.1:5999","--dst","127.0.0.1:5900","--token","abc"],"detached":true,"program":"/opt/norbix/tools/tunnel"})"));
+        QVERIFY(commands.contains(R"({"args":["--src","127.0.0.1:5999","--dst","127.0.0.1:5900","--token","abc"],"detached":false,"program":"/opt/norbix/tools/tunnel"})"));
         QVERIFY(commands.contains(R"({"args":["reboot","-f"],"detached":true,"program":"sudo"})"));
 
         QString log;

@@ -1,0 +1,89 @@
+#include "NetworkStatus.h"
+
+#include "CommandRunner.h"
+
+#include <QList>
+#include <QStringList>
+
+NetworkStatus::NetworkStatus(bool autoRefresh, QObject* parent) : QObject(parent)
+{
+    if (!autoRefresh)
+        return;
+    m_timer.setInterval(kRefreshMs);
+    connect(&m_timer, &QTimer::timeout, this, &NetworkStatus::refresh);
+    m_timer.start();
+    refresh();
+}
+
+NetworkStatus::State NetworkStatus::parseDeviceStatus(const QByteArray& output)
+{
+    const QStringList lines = QString::fromUtf8(output).split(QLatin1Char('\n'));
+    int header = -1;
+    for (int i = 0; i < lines.size(); ++i) {
+        if (lines.at(i).startsWith(QLatin1String("DEVICE"))) {
+            header = i;
+            break;
+        }
+    }
+    State state;
+    if (header < 0)
+        return state;
+    const QString& head = lines.at(header);
+    const int typeAt = head.indexOf(QLatin1String("TYPE"));
+    const int stateAt = head.indexOf(QLatin1String("STATE"));
+    const int connectionAt = head.indexOf(QLatin1String("CONNECTION"));
+    if (typeAt < 0 || stateAt < typeAt || connectionAt < stateAt)
+        return state;
+    state.known = true;
+    QString wifiName;
+    bool wifi = false;
+    for (int i = header + 1; i < lines.size(); ++i) {
+        const QString line = lines.at(i);
+        if (line.trimmed().isEmpty() || line.size() <= stateAt)
+            continue;
+        const QString type = line.mid(typeAt, stateAt - typeAt).trimmed();
+        const QString status = line.mid(stateAt, connectionAt - stateAt).trimmed();
+        // "connected (externally)" counts; "connecting (getting IP configuration)" does not yet.
+        if (status != QLatin1String("connected") && !status.startsWith(QLatin1String("connected ")))
+            continue;
+        if (type == QLatin1String("ethernet")) {
+            state.kind = Wired;
+            state.name.clear();
+            return state;
+        }
+        if (type == QLatin1String("wifi") && !wifi) {
+            wifi = true;
+            const QString name = line.mid(connectionAt).trimmed();
+            wifiName = name == QLatin1String("--") ? QString() : name;
+        }
+    }
+    if (wifi) {
+        state.kind = WiFi;
+        state.name = wifiName;
+    }
+    return state;
+}
+
+QString NetworkStatus::describe(const State& state)
+{
+    switch (state.kind) {
+    case Wired:
+        return tr("Wired network");
+    case WiFi:
+        return state.name.isEmpty() ? tr("Wi-Fi") : tr("Wi-Fi: %1").arg(state.name);
+    case NoNetwork:
+        break;
+    }
+    return state.known ? tr("No network") : tr("Network state unknown");
+}
+
+void NetworkStatus::refresh()
+{
+    const CommandResult result = CommandRunner::instance().run(QStringLiteral("nmcli"),
+                                                               {QStringLiteral("device"), QStringLiteral("status")});
+    const State state = parseDeviceStatus(result.standardOutput);
+    if (state == m_state)
+        return;
+    m_state = state;
+    emit changed();
+}
