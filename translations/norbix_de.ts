@@ -132,7 +132,7 @@
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+19"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
@@ -284,7 +284,7 @@
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+11"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
@@ -358,7 +358,7 @@
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+19"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
@@ -578,7 +578,7 @@
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+20"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
@@ -770,9 +770,46 @@
     </message>
 </context>
 <context>
+    <name>AssistanceBanner</name>
+    <message>
+        <location filename="../qml/vorplex/AssistanceBanner.qml" line="+35"/>
+        <source>Remote assistance active</source>
+        <translation>Fernwartung aktiv</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>End assistance</source>
+        <translation>Fernwartung beenden</translation>
+    </message>
+</context>
+<context>
+    <name>CertificateCountBadge</name>
+    <message numerus="yes">
+        <location filename="../qml/vorplex/CertificateCountBadge.qml" line="+16"/>
+        <source>%n certificate(s) expired or expiring soon</source>
+        <translation>
+            <numerusform>%n Zertifikat abgelaufen oder läuft bald ab</numerusform>
+            <numerusform>%n Zertifikate abgelaufen oder laufen bald ab</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CertificateExpiry</name>
+    <message>
+        <location filename="../src/maintenance/CertificateExpiry.cpp" line="+44"/>
+        <source>Expired on %1</source>
+        <translation>Abgelaufen am %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Expires on %1</source>
+        <translation>Läuft am %1 ab</translation>
+    </message>
+</context>
+<context>
     <name>CertificatesModel</name>
     <message>
-        <location filename="../src/maintenance/CertificatesModel.cpp" line="+6"/>
+        <location filename="../src/maintenance/CertificatesModel.cpp" line="+7"/>
         <source>Name</source>
         <translation>Name</translation>
     </message>
@@ -880,7 +917,7 @@
         <translation>Systemzertifikat</translation>
     </message>
     <message>
-        <location line="+31"/>
+        <location line="+46"/>
         <location line="+26"/>
         <source>Remove</source>
         <translation>Entfernen</translation>
@@ -955,6 +992,177 @@
         <location line="+1"/>
         <source>Starting the Citrix session…</source>
         <translation>Citrix-Sitzung wird gestartet…</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCheck</name>
+    <message>
+        <location filename="../src/connectors/ConnectionCheck.cpp" line="+215"/>
+        <source>Reading the address</source>
+        <translation>Adresse wird gelesen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Finding the server</source>
+        <translation>Server wird gesucht</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Connecting to port %1</source>
+        <translation>Verbindung mit Port %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Secure handshake</source>
+        <translation>Sicherer Verbindungsaufbau</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Enter the server&apos;s address first</source>
+        <translation>Geben Sie zuerst die Adresse des Servers ein</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The address must not contain spaces</source>
+        <translation>Die Adresse darf keine Leerzeichen enthalten</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enter the server&apos;s name or address without &quot;%1&quot; in front</source>
+        <translation>Geben Sie den Namen oder die Adresse des Servers ohne „%1“ davor ein</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Only https:// and http:// addresses can be checked, not &quot;%1&quot;</source>
+        <translation>Nur https://- und http://-Adressen können geprüft werden, nicht „%1“</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The port must be a number from 1 to 65535</source>
+        <translation>Der Port muss eine Zahl von 1 bis 65535 sein</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a valid server name or address</source>
+        <translation>„%1“ ist kein gültiger Servername und keine gültige Adresse</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a valid IPv6 address; write it in brackets to add a port, like [2001:db8::1]:3389</source>
+        <translation>„%1“ ist keine gültige IPv6-Adresse; setzen Sie sie in eckige Klammern, um einen Port anzugeben, z. B. [2001:db8::1]:3389</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>This kind of connection cannot be checked</source>
+        <translation>Diese Art von Verbindung kann nicht geprüft werden</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server name cannot be found</source>
+        <translation>Der Servername wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nothing answers on port %1</source>
+        <translation>Auf Port %1 antwortet nichts</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server does not answer on port %1</source>
+        <translation>Der Server antwortet nicht auf Port %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server cannot be reached: %1</source>
+        <translation>Der Server ist nicht erreichbar: %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers on port %1 but the secure handshake failed: %2</source>
+        <translation>Der Server antwortet auf Port %1, aber der sichere Verbindungsaufbau ist fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers but its certificate expired on %1</source>
+        <translation>Der Server antwortet, aber sein Zertifikat ist am %1 abgelaufen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers but its certificate is only valid from %1</source>
+        <translation>Der Server antwortet, aber sein Zertifikat ist erst ab %1 gültig</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The server answers but its certificate is self-signed and not trusted by this terminal</source>
+        <translation>Der Server antwortet, aber sein Zertifikat ist selbst signiert und wird von diesem Terminal nicht als vertrauenswürdig eingestuft</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The server answers but its certificate is not trusted by this terminal</source>
+        <translation>Der Server antwortet, aber dieses Terminal vertraut seinem Zertifikat nicht</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The check was cancelled</source>
+        <translation>Die Prüfung wurde abgebrochen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers and its certificate is valid until %1</source>
+        <translation>Der Server antwortet und sein Zertifikat ist bis %1 gültig</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The server answers on port %1</source>
+        <translation>Der Server antwortet auf Port %1</translation>
+    </message>
+    <message>
+        <location line="+144"/>
+        <source>no answer</source>
+        <translation>keine Antwort</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCheckDialog</name>
+    <message>
+        <location filename="../qml/vorplex/ConnectionCheckDialog.qml" line="+25"/>
+        <source>Test connection</source>
+        <translation>Verbindung testen</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Checking whether “%1” can be reached.</source>
+        <translation>Es wird geprüft, ob „%1“ erreichbar ist.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancel check</source>
+        <translation>Prüfung abbrechen</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Step that failed: %1</source>
+        <translation>Fehlgeschlagener Schritt: %1</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Certificate issued to</source>
+        <translation>Zertifikat ausgestellt für</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Issued by</source>
+        <translation>Ausgestellt von</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valid until</source>
+        <translation>Gültig bis</translation>
     </message>
 </context>
 <context>
@@ -1036,7 +1244,17 @@
 <context>
     <name>ConnectionTile</name>
     <message>
-        <location filename="../qml/vorplex/ConnectionTile.qml" line="+70"/>
+        <location filename="../qml/vorplex/ConnectionTile.qml" line="+69"/>
+        <source>More actions for %1</source>
+        <translation>Weitere Aktionen für %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Test connection</source>
+        <translation>Verbindung testen</translation>
+    </message>
+    <message>
+        <location line="+17"/>
         <source>Auto</source>
         <translation>Autostart</translation>
     </message>
@@ -2070,7 +2288,7 @@
 <context>
     <name>LocalUpdaterBackend</name>
     <message>
-        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="+146"/>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="+147"/>
         <location line="+39"/>
         <location line="+15"/>
         <source>The update service sent an answer that cannot be read.</source>
@@ -2191,13 +2409,19 @@
 <context>
     <name>Main</name>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="+63"/>
-        <location line="+156"/>
+        <location filename="../qml/vorplex/Main.qml" line="+64"/>
+        <source>This terminal has no network connection. Check the network cable or the Wi-Fi, then try again.</source>
+        <translation>Dieses Terminal hat keine Netzwerkverbindung. Prüfen Sie das Netzwerkkabel oder das WLAN und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <location line="+169"/>
+        <location line="+34"/>
         <source>Failed to connect</source>
         <translation>Verbindung fehlgeschlagen</translation>
     </message>
     <message>
-        <location line="-146"/>
+        <location line="-193"/>
         <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
         <translation>Diese Verbindung ist unvollständig und kann nicht gestartet werden. Ein Administrator kann sie unter Einstellungen → Verbindungen vervollständigen.</translation>
     </message>
@@ -2217,12 +2441,12 @@
         <translation>Alex vom IT-Support möchte Ihren Bildschirm sehen, um Ihnen bei Ihrem Ticket zu helfen.</translation>
     </message>
     <message>
-        <location line="+65"/>
+        <location line="+75"/>
         <source>Your request for help has been sent.</source>
         <translation>Ihre Bitte um Hilfe wurde gesendet.</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+51"/>
         <source>“%1” added.</source>
         <translation>„%1“ hinzugefügt.</translation>
     </message>
@@ -2245,7 +2469,7 @@
 <context>
     <name>MainView</name>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="+130"/>
+        <location filename="../qml/vorplex/MainView.qml" line="+133"/>
         <source>Help</source>
         <translation>Hilfe</translation>
     </message>
@@ -2295,7 +2519,7 @@
         <translation>Norbix %1</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+16"/>
         <source>Thin client terminal</source>
         <translation>Thin-Client-Terminal</translation>
     </message>
@@ -2520,9 +2744,50 @@
 <context>
     <name>NetworkManager</name>
     <message>
-        <location filename="../src/settings/NetworkManager.cpp" line="+303"/>
+        <location filename="../src/settings/NetworkManager.cpp" line="+304"/>
         <source>Browse certificate</source>
         <translation>Zertifikat auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkStatus</name>
+    <message>
+        <location filename="../src/settings/NetworkStatus.cpp" line="+71"/>
+        <source>Wired network</source>
+        <translation>Kabelnetzwerk</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Wi-Fi: %1</source>
+        <translation>WLAN: %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>No network</source>
+        <translation>Kein Netzwerk</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Network state unknown</source>
+        <translation>Netzwerkstatus unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkStatusBadge</name>
+    <message>
+        <location filename="../qml/vorplex/NetworkStatusBadge.qml" line="+46"/>
+        <source>Management server reached</source>
+        <translation>Verwaltungsserver erreichbar</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Management server not reached</source>
+        <translation>Verwaltungsserver nicht erreichbar</translation>
     </message>
 </context>
 <context>
@@ -3312,7 +3577,7 @@
         <translation>Zurück zum Startbildschirm</translation>
     </message>
     <message>
-        <location line="+153"/>
+        <location line="+161"/>
         <source>Advanced settings</source>
         <translation>Erweitert</translation>
     </message>
@@ -3412,6 +3677,14 @@
         <location filename="../qml/vorplex/TeamsPopup.qml" line="+33"/>
         <source>Microsoft Teams</source>
         <translation>Microsoft Teams</translation>
+    </message>
+</context>
+<context>
+    <name>TestConnectionButton</name>
+    <message>
+        <location filename="../qml/vorplex/TestConnectionButton.qml" line="+13"/>
+        <source>Test connection</source>
+        <translation>Verbindung testen</translation>
     </message>
 </context>
 <context>
@@ -3692,7 +3965,7 @@
         <translation>Verbindung</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+19"/>
         <source>Connection name</source>
         <translation>Verbindungsname</translation>
     </message>
@@ -3770,6 +4043,39 @@
         <location line="+1"/>
         <source>Optional: the desktop pool to open</source>
         <translation>Optional: der zu öffnende Desktop-Pool</translation>
+    </message>
+</context>
+<context>
+    <name>VNCPasswordDialog</name>
+    <message>
+        <location filename="../qml/vorplex/VNCPasswordDialog.qml" line="+30"/>
+        <source>VNC password</source>
+        <translation>VNC-Passwort</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the VNC password for “%1”.</source>
+        <translation>Geben Sie das VNC-Passwort für „%1“ ein.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the VNC password to start the session.</source>
+        <translation>Geben Sie das VNC-Passwort ein, um die Sitzung zu starten.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Password can&apos;t be empty</source>
+        <translation>Das Passwort darf nicht leer sein</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Password</source>
+        <translation>Passwort</translation>
     </message>
 </context>
 <context>

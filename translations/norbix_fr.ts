@@ -132,7 +132,7 @@
         <translation>Connexion</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+19"/>
         <source>Connection name</source>
         <translation>Nom de la connexion</translation>
     </message>
@@ -284,7 +284,7 @@
         <translation>Connexion</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+11"/>
         <source>Connection name</source>
         <translation>Nom de la connexion</translation>
     </message>
@@ -358,7 +358,7 @@
         <translation>Connexion</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+19"/>
         <source>Connection name</source>
         <translation>Nom de la connexion</translation>
     </message>
@@ -578,7 +578,7 @@
         <translation>Connexion</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+20"/>
         <source>Connection name</source>
         <translation>Nom de la connexion</translation>
     </message>
@@ -770,9 +770,46 @@
     </message>
 </context>
 <context>
+    <name>AssistanceBanner</name>
+    <message>
+        <location filename="../qml/vorplex/AssistanceBanner.qml" line="+35"/>
+        <source>Remote assistance active</source>
+        <translation>Assistance à distance active</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>End assistance</source>
+        <translation>Terminer l&apos;assistance</translation>
+    </message>
+</context>
+<context>
+    <name>CertificateCountBadge</name>
+    <message numerus="yes">
+        <location filename="../qml/vorplex/CertificateCountBadge.qml" line="+16"/>
+        <source>%n certificate(s) expired or expiring soon</source>
+        <translation>
+            <numerusform>%n certificat expiré ou bientôt expiré</numerusform>
+            <numerusform>%n certificats expirés ou bientôt expirés</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CertificateExpiry</name>
+    <message>
+        <location filename="../src/maintenance/CertificateExpiry.cpp" line="+44"/>
+        <source>Expired on %1</source>
+        <translation>Expiré le %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Expires on %1</source>
+        <translation>Expire le %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificatesModel</name>
     <message>
-        <location filename="../src/maintenance/CertificatesModel.cpp" line="+6"/>
+        <location filename="../src/maintenance/CertificatesModel.cpp" line="+7"/>
         <source>Name</source>
         <translation>Nom</translation>
     </message>
@@ -880,7 +917,7 @@
         <translation>Certificat système</translation>
     </message>
     <message>
-        <location line="+31"/>
+        <location line="+46"/>
         <location line="+26"/>
         <source>Remove</source>
         <translation>Supprimer</translation>
@@ -955,6 +992,177 @@
         <location line="+1"/>
         <source>Starting the Citrix session…</source>
         <translation>Démarrage de la session Citrix…</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCheck</name>
+    <message>
+        <location filename="../src/connectors/ConnectionCheck.cpp" line="+215"/>
+        <source>Reading the address</source>
+        <translation>Lecture de l&apos;adresse</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Finding the server</source>
+        <translation>Recherche du serveur</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Connecting to port %1</source>
+        <translation>Connexion au port %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Secure handshake</source>
+        <translation>Négociation sécurisée</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Enter the server&apos;s address first</source>
+        <translation>Saisissez d&apos;abord l&apos;adresse du serveur</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The address must not contain spaces</source>
+        <translation>L&apos;adresse ne doit pas contenir d&apos;espaces</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enter the server&apos;s name or address without &quot;%1&quot; in front</source>
+        <translation>Saisissez le nom ou l&apos;adresse du serveur sans « %1 » devant</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Only https:// and http:// addresses can be checked, not &quot;%1&quot;</source>
+        <translation>Seules les adresses https:// et http:// peuvent être testées, pas « %1 »</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The port must be a number from 1 to 65535</source>
+        <translation>Le port doit être un nombre de 1 à 65535</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a valid server name or address</source>
+        <translation>« %1 » n&apos;est pas un nom ou une adresse de serveur valide</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a valid IPv6 address; write it in brackets to add a port, like [2001:db8::1]:3389</source>
+        <translation>« %1 » n&apos;est pas une adresse IPv6 valide ; mettez-la entre crochets pour ajouter un port, par exemple [2001:db8::1]:3389</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>This kind of connection cannot be checked</source>
+        <translation>Ce type de connexion ne peut pas être testé</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server name cannot be found</source>
+        <translation>Le nom du serveur est introuvable</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nothing answers on port %1</source>
+        <translation>Rien ne répond sur le port %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server does not answer on port %1</source>
+        <translation>Le serveur ne répond pas sur le port %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server cannot be reached: %1</source>
+        <translation>Le serveur est injoignable : %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers on port %1 but the secure handshake failed: %2</source>
+        <translation>Le serveur répond sur le port %1, mais la négociation sécurisée a échoué : %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers but its certificate expired on %1</source>
+        <translation>Le serveur répond, mais son certificat a expiré le %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers but its certificate is only valid from %1</source>
+        <translation>Le serveur répond, mais son certificat n&apos;est valable qu&apos;à partir du %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The server answers but its certificate is self-signed and not trusted by this terminal</source>
+        <translation>Le serveur répond, mais son certificat est auto-signé et ce terminal ne lui fait pas confiance</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The server answers but its certificate is not trusted by this terminal</source>
+        <translation>Le serveur répond, mais ce terminal ne fait pas confiance à son certificat</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The check was cancelled</source>
+        <translation>Le test a été annulé</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers and its certificate is valid until %1</source>
+        <translation>Le serveur répond et son certificat est valable jusqu&apos;au %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The server answers on port %1</source>
+        <translation>Le serveur répond sur le port %1</translation>
+    </message>
+    <message>
+        <location line="+144"/>
+        <source>no answer</source>
+        <translation>pas de réponse</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCheckDialog</name>
+    <message>
+        <location filename="../qml/vorplex/ConnectionCheckDialog.qml" line="+25"/>
+        <source>Test connection</source>
+        <translation>Tester la connexion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Checking whether “%1” can be reached.</source>
+        <translation>Vérification que « %1 » est joignable.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancel check</source>
+        <translation>Annuler le test</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Step that failed: %1</source>
+        <translation>Étape en échec : %1</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Certificate issued to</source>
+        <translation>Certificat délivré à</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Issued by</source>
+        <translation>Délivré par</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valid until</source>
+        <translation>Valable jusqu&apos;au</translation>
     </message>
 </context>
 <context>
@@ -1036,7 +1244,17 @@
 <context>
     <name>ConnectionTile</name>
     <message>
-        <location filename="../qml/vorplex/ConnectionTile.qml" line="+70"/>
+        <location filename="../qml/vorplex/ConnectionTile.qml" line="+69"/>
+        <source>More actions for %1</source>
+        <translation>Autres actions pour %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Test connection</source>
+        <translation>Tester la connexion</translation>
+    </message>
+    <message>
+        <location line="+17"/>
         <source>Auto</source>
         <translation>Auto</translation>
     </message>
@@ -2070,7 +2288,7 @@
 <context>
     <name>LocalUpdaterBackend</name>
     <message>
-        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="+146"/>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="+147"/>
         <location line="+39"/>
         <location line="+15"/>
         <source>The update service sent an answer that cannot be read.</source>
@@ -2191,13 +2409,19 @@
 <context>
     <name>Main</name>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="+63"/>
-        <location line="+156"/>
+        <location filename="../qml/vorplex/Main.qml" line="+64"/>
+        <source>This terminal has no network connection. Check the network cable or the Wi-Fi, then try again.</source>
+        <translation>Ce terminal n&apos;a pas de connexion réseau. Vérifiez le câble réseau ou le Wi-Fi, puis réessayez.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <location line="+169"/>
+        <location line="+34"/>
         <source>Failed to connect</source>
         <translation>Échec de la connexion</translation>
     </message>
     <message>
-        <location line="-146"/>
+        <location line="-193"/>
         <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
         <translation>Cette connexion est incomplète et ne peut pas être démarrée. Un administrateur peut la compléter dans Paramètres → Connexions.</translation>
     </message>
@@ -2217,12 +2441,12 @@
         <translation>Alex, du support informatique, souhaite voir votre écran pour traiter votre ticket.</translation>
     </message>
     <message>
-        <location line="+65"/>
+        <location line="+75"/>
         <source>Your request for help has been sent.</source>
         <translation>Votre demande d&apos;aide a été envoyée.</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+51"/>
         <source>“%1” added.</source>
         <translation>Connexion «&#xa0;%1&#xa0;» ajoutée.</translation>
     </message>
@@ -2245,7 +2469,7 @@
 <context>
     <name>MainView</name>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="+130"/>
+        <location filename="../qml/vorplex/MainView.qml" line="+133"/>
         <source>Help</source>
         <translation>Aide</translation>
     </message>
@@ -2295,7 +2519,7 @@
         <translation>Norbix %1</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+16"/>
         <source>Thin client terminal</source>
         <translation>Terminal client léger</translation>
     </message>
@@ -2520,9 +2744,50 @@
 <context>
     <name>NetworkManager</name>
     <message>
-        <location filename="../src/settings/NetworkManager.cpp" line="+303"/>
+        <location filename="../src/settings/NetworkManager.cpp" line="+304"/>
         <source>Browse certificate</source>
         <translation>Choisir un certificat</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkStatus</name>
+    <message>
+        <location filename="../src/settings/NetworkStatus.cpp" line="+71"/>
+        <source>Wired network</source>
+        <translation>Réseau filaire</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Wi-Fi: %1</source>
+        <translation>Wi-Fi : %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>No network</source>
+        <translation>Aucun réseau</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Network state unknown</source>
+        <translation>État du réseau inconnu</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkStatusBadge</name>
+    <message>
+        <location filename="../qml/vorplex/NetworkStatusBadge.qml" line="+46"/>
+        <source>Management server reached</source>
+        <translation>Serveur de gestion joignable</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Management server not reached</source>
+        <translation>Serveur de gestion injoignable</translation>
     </message>
 </context>
 <context>
@@ -3312,7 +3577,7 @@
         <translation>Retour à l&apos;accueil</translation>
     </message>
     <message>
-        <location line="+153"/>
+        <location line="+161"/>
         <source>Advanced settings</source>
         <translation>Mode avancé</translation>
     </message>
@@ -3412,6 +3677,14 @@
         <location filename="../qml/vorplex/TeamsPopup.qml" line="+33"/>
         <source>Microsoft Teams</source>
         <translation>Microsoft Teams</translation>
+    </message>
+</context>
+<context>
+    <name>TestConnectionButton</name>
+    <message>
+        <location filename="../qml/vorplex/TestConnectionButton.qml" line="+13"/>
+        <source>Test connection</source>
+        <translation>Tester la connexion</translation>
     </message>
 </context>
 <context>
@@ -3692,7 +3965,7 @@
         <translation>Connexion</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+19"/>
         <source>Connection name</source>
         <translation>Nom de la connexion</translation>
     </message>
@@ -3770,6 +4043,39 @@
         <location line="+1"/>
         <source>Optional: the desktop pool to open</source>
         <translation>Facultatif&#xa0;: pool de bureaux à ouvrir</translation>
+    </message>
+</context>
+<context>
+    <name>VNCPasswordDialog</name>
+    <message>
+        <location filename="../qml/vorplex/VNCPasswordDialog.qml" line="+30"/>
+        <source>VNC password</source>
+        <translation>Mot de passe VNC</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the VNC password for “%1”.</source>
+        <translation>Saisissez le mot de passe VNC de « %1 ».</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the VNC password to start the session.</source>
+        <translation>Saisissez le mot de passe VNC pour démarrer la session.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connect</source>
+        <translation>Se connecter</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Password can&apos;t be empty</source>
+        <translation>Le mot de passe ne peut pas être vide</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
     </message>
 </context>
 <context>

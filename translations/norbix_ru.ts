@@ -132,7 +132,7 @@
         <translation>Подключение</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+19"/>
         <source>Connection name</source>
         <translation>Имя подключения</translation>
     </message>
@@ -284,7 +284,7 @@
         <translation>Подключение</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+11"/>
         <source>Connection name</source>
         <translation>Имя подключения</translation>
     </message>
@@ -358,7 +358,7 @@
         <translation>Подключение</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+19"/>
         <source>Connection name</source>
         <translation>Имя подключения</translation>
     </message>
@@ -578,7 +578,7 @@
         <translation>Подключение</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+20"/>
         <source>Connection name</source>
         <translation>Имя подключения</translation>
     </message>
@@ -770,9 +770,47 @@
     </message>
 </context>
 <context>
+    <name>AssistanceBanner</name>
+    <message>
+        <location filename="../qml/vorplex/AssistanceBanner.qml" line="+35"/>
+        <source>Remote assistance active</source>
+        <translation>Удалённая помощь активна</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>End assistance</source>
+        <translation>Завершить помощь</translation>
+    </message>
+</context>
+<context>
+    <name>CertificateCountBadge</name>
+    <message numerus="yes">
+        <location filename="../qml/vorplex/CertificateCountBadge.qml" line="+16"/>
+        <source>%n certificate(s) expired or expiring soon</source>
+        <translation>
+            <numerusform>%n сертификат истёк или скоро истечёт</numerusform>
+            <numerusform>%n сертификата истекли или скоро истекут</numerusform>
+            <numerusform>%n сертификатов истекли или скоро истекут</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CertificateExpiry</name>
+    <message>
+        <location filename="../src/maintenance/CertificateExpiry.cpp" line="+44"/>
+        <source>Expired on %1</source>
+        <translation>Истёк %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Expires on %1</source>
+        <translation>Истекает %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificatesModel</name>
     <message>
-        <location filename="../src/maintenance/CertificatesModel.cpp" line="+6"/>
+        <location filename="../src/maintenance/CertificatesModel.cpp" line="+7"/>
         <source>Name</source>
         <translation>Имя</translation>
     </message>
@@ -880,7 +918,7 @@
         <translation>Системный сертификат</translation>
     </message>
     <message>
-        <location line="+31"/>
+        <location line="+46"/>
         <location line="+26"/>
         <source>Remove</source>
         <translation>Удалить</translation>
@@ -955,6 +993,177 @@
         <location line="+1"/>
         <source>Starting the Citrix session…</source>
         <translation>Запуск сеанса Citrix…</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCheck</name>
+    <message>
+        <location filename="../src/connectors/ConnectionCheck.cpp" line="+215"/>
+        <source>Reading the address</source>
+        <translation>Проверка адреса</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Finding the server</source>
+        <translation>Поиск сервера</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Connecting to port %1</source>
+        <translation>Подключение к порту %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Secure handshake</source>
+        <translation>Защищённое соединение</translation>
+    </message>
+    <message>
+        <location line="+24"/>
+        <source>Enter the server&apos;s address first</source>
+        <translation>Сначала введите адрес сервера</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The address must not contain spaces</source>
+        <translation>Адрес не должен содержать пробелов</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Enter the server&apos;s name or address without &quot;%1&quot; in front</source>
+        <translation>Введите имя или адрес сервера без «%1» в начале</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Only https:// and http:// addresses can be checked, not &quot;%1&quot;</source>
+        <translation>Можно проверить только адреса https:// и http://, но не «%1»</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The port must be a number from 1 to 65535</source>
+        <translation>Порт должен быть числом от 1 до 65535</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a valid server name or address</source>
+        <translation>«%1» не является допустимым именем или адресом сервера</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&quot;%1&quot; is not a valid IPv6 address; write it in brackets to add a port, like [2001:db8::1]:3389</source>
+        <translation>«%1» не является допустимым адресом IPv6; чтобы указать порт, заключите адрес в квадратные скобки, например [2001:db8::1]:3389</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>This kind of connection cannot be checked</source>
+        <translation>Подключение этого типа нельзя проверить</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server name cannot be found</source>
+        <translation>Имя сервера не найдено</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Nothing answers on port %1</source>
+        <translation>На порту %1 ничего не отвечает</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server does not answer on port %1</source>
+        <translation>Сервер не отвечает на порту %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server cannot be reached: %1</source>
+        <translation>Сервер недоступен: %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers on port %1 but the secure handshake failed: %2</source>
+        <translation>Сервер отвечает на порту %1, но установить защищённое соединение не удалось: %2</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers but its certificate expired on %1</source>
+        <translation>Сервер отвечает, но срок действия его сертификата истёк %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers but its certificate is only valid from %1</source>
+        <translation>Сервер отвечает, но его сертификат действителен только с %1</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The server answers but its certificate is self-signed and not trusted by this terminal</source>
+        <translation>Сервер отвечает, но его сертификат самоподписанный, и этот терминал ему не доверяет</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The server answers but its certificate is not trusted by this terminal</source>
+        <translation>Сервер отвечает, но этот терминал не доверяет его сертификату</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>The check was cancelled</source>
+        <translation>Проверка отменена</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server answers and its certificate is valid until %1</source>
+        <translation>Сервер отвечает, его сертификат действителен до %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The server answers on port %1</source>
+        <translation>Сервер отвечает на порту %1</translation>
+    </message>
+    <message>
+        <location line="+144"/>
+        <source>no answer</source>
+        <translation>нет ответа</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCheckDialog</name>
+    <message>
+        <location filename="../qml/vorplex/ConnectionCheckDialog.qml" line="+25"/>
+        <source>Test connection</source>
+        <translation>Проверить подключение</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Checking whether “%1” can be reached.</source>
+        <translation>Проверяется доступность «%1».</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Cancel check</source>
+        <translation>Отменить проверку</translation>
+    </message>
+    <message>
+        <location line="+59"/>
+        <source>Step that failed: %1</source>
+        <translation>Неудачный шаг: %1</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Certificate issued to</source>
+        <translation>Кому выдан сертификат</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Issued by</source>
+        <translation>Кем выдан</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Valid until</source>
+        <translation>Действителен до</translation>
     </message>
 </context>
 <context>
@@ -1036,7 +1245,17 @@
 <context>
     <name>ConnectionTile</name>
     <message>
-        <location filename="../qml/vorplex/ConnectionTile.qml" line="+70"/>
+        <location filename="../qml/vorplex/ConnectionTile.qml" line="+69"/>
+        <source>More actions for %1</source>
+        <translation>Другие действия для %1</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Test connection</source>
+        <translation>Проверить подключение</translation>
+    </message>
+    <message>
+        <location line="+17"/>
         <source>Auto</source>
         <translation>Авто</translation>
     </message>
@@ -2074,7 +2293,7 @@
 <context>
     <name>LocalUpdaterBackend</name>
     <message>
-        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="+146"/>
+        <location filename="../src/maintenance/LocalUpdaterBackend.cpp" line="+147"/>
         <location line="+39"/>
         <location line="+15"/>
         <source>The update service sent an answer that cannot be read.</source>
@@ -2195,13 +2414,19 @@
 <context>
     <name>Main</name>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="+63"/>
-        <location line="+156"/>
+        <location filename="../qml/vorplex/Main.qml" line="+64"/>
+        <source>This terminal has no network connection. Check the network cable or the Wi-Fi, then try again.</source>
+        <translation>У этого терминала нет подключения к сети. Проверьте сетевой кабель или Wi-Fi и повторите попытку.</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <location line="+169"/>
+        <location line="+34"/>
         <source>Failed to connect</source>
         <translation>Не удалось подключиться</translation>
     </message>
     <message>
-        <location line="-146"/>
+        <location line="-193"/>
         <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
         <translation>Это подключение заполнено не полностью и не может быть запущено. Администратор может дополнить его в разделе Настройки → Подключения.</translation>
     </message>
@@ -2221,12 +2446,12 @@
         <translation>Алекс из ИТ-поддержки хочет увидеть ваш экран, чтобы помочь с вашей заявкой.</translation>
     </message>
     <message>
-        <location line="+65"/>
+        <location line="+75"/>
         <source>Your request for help has been sent.</source>
         <translation>Ваш запрос о помощи отправлен.</translation>
     </message>
     <message>
-        <location line="+48"/>
+        <location line="+51"/>
         <source>“%1” added.</source>
         <translation>Подключение «%1» добавлено.</translation>
     </message>
@@ -2249,7 +2474,7 @@
 <context>
     <name>MainView</name>
     <message>
-        <location filename="../qml/vorplex/MainView.qml" line="+130"/>
+        <location filename="../qml/vorplex/MainView.qml" line="+133"/>
         <source>Help</source>
         <translation>Помощь</translation>
     </message>
@@ -2299,7 +2524,7 @@
         <translation>Norbix %1</translation>
     </message>
     <message>
-        <location line="+10"/>
+        <location line="+16"/>
         <source>Thin client terminal</source>
         <translation>Терминал тонкого клиента</translation>
     </message>
@@ -2524,9 +2749,50 @@
 <context>
     <name>NetworkManager</name>
     <message>
-        <location filename="../src/settings/NetworkManager.cpp" line="+303"/>
+        <location filename="../src/settings/NetworkManager.cpp" line="+304"/>
         <source>Browse certificate</source>
         <translation>Выбор сертификата</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkStatus</name>
+    <message>
+        <location filename="../src/settings/NetworkStatus.cpp" line="+71"/>
+        <source>Wired network</source>
+        <translation>Проводная сеть</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Wi-Fi: %1</source>
+        <translation>Wi-Fi: %1</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>No network</source>
+        <translation>Нет сети</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Network state unknown</source>
+        <translation>Состояние сети неизвестно</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkStatusBadge</name>
+    <message>
+        <location filename="../qml/vorplex/NetworkStatusBadge.qml" line="+46"/>
+        <source>Management server reached</source>
+        <translation>Сервер управления доступен</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Management server not reached</source>
+        <translation>Сервер управления недоступен</translation>
     </message>
 </context>
 <context>
@@ -3316,7 +3582,7 @@
         <translation>На главный экран</translation>
     </message>
     <message>
-        <location line="+153"/>
+        <location line="+161"/>
         <source>Advanced settings</source>
         <translation>Дополнительно</translation>
     </message>
@@ -3416,6 +3682,14 @@
         <location filename="../qml/vorplex/TeamsPopup.qml" line="+33"/>
         <source>Microsoft Teams</source>
         <translation>Microsoft Teams</translation>
+    </message>
+</context>
+<context>
+    <name>TestConnectionButton</name>
+    <message>
+        <location filename="../qml/vorplex/TestConnectionButton.qml" line="+13"/>
+        <source>Test connection</source>
+        <translation>Проверить подключение</translation>
     </message>
 </context>
 <context>
@@ -3696,7 +3970,7 @@
         <translation>Подключение</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+19"/>
         <source>Connection name</source>
         <translation>Имя подключения</translation>
     </message>
@@ -3774,6 +4048,39 @@
         <location line="+1"/>
         <source>Optional: the desktop pool to open</source>
         <translation>Необязательно: пул рабочих столов</translation>
+    </message>
+</context>
+<context>
+    <name>VNCPasswordDialog</name>
+    <message>
+        <location filename="../qml/vorplex/VNCPasswordDialog.qml" line="+30"/>
+        <source>VNC password</source>
+        <translation>Пароль VNC</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the VNC password for “%1”.</source>
+        <translation>Введите пароль VNC для «%1».</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Enter the VNC password to start the session.</source>
+        <translation>Введите пароль VNC, чтобы начать сеанс.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Connect</source>
+        <translation>Подключиться</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Password can&apos;t be empty</source>
+        <translation>Пароль не может быть пустым</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Password</source>
+        <translation>Пароль</translation>
     </message>
 </context>
 <context>
