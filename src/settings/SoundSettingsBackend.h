@@ -20,6 +20,8 @@ public:
     Q_INVOKABLE QStringList listSinks();
     Q_INVOKABLE int getActiveSink();
     Q_INVOKABLE void setActiveSink(int index);
+    // The active sink's name as listSinks() gives it (one listing); empty when none is marked.
+    QString getActiveSinkName();
     Q_INVOKABLE void setSoundEnabled(bool enabled);
     Q_INVOKABLE void testSound();
     Q_INVOKABLE void testMicrophone();
