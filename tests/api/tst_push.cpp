@@ -341,6 +341,63 @@ private slots:
         QCOMPARE(leftovers, QStringList());
     }
 
+    // Every group and key of the report, with the JSON type the push reads it as.
+    void reportHasEveryKey_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("type");
+        const int s = QJsonValue::String, b = QJsonValue::Bool, n = QJsonValue::Double;
+        const QList<QPair<QString, int>> keys{
+            {"DateTime/Date", s}, {"DateTime/IsAmPm", b}, {"DateTime/Timezone", s}, {"DateTime/NTP", s},
+            {"Printers/ActivePrinter", s},
+            {"Sound/ActiveSink", s}, {"Sound/MicrophoneVolume", n}, {"Sound/SoundVolume", n}, {"Sound/Enabled", b},
+            {"System/Language", s},
+            {"KeyboardMouse/Speed", n}, {"KeyboardMouse/DoubleClickSpeed", n}, {"KeyboardMouse/PrimaryButton", n},
+            {"WiFi/WifiEnabled", b}, {"WiFi/ActiveNetwork", s},
+            {"8021x/EAP", s}, {"8021x/Username", s}, {"8021x/Password", s}, {"8021x/Domain", s}, {"8021x/KeyPassword", s},
+            {"8021x/CAPassword", s}, {"8021x/UserPassword", s}, {"8021x/CACert", s}, {"8021x/ClientCert", s},
+            {"8021x/PacFile", s}, {"8021x/Key", s}, {"8021x/AnonIdentity", s}, {"8021x/Phase1Provisioning", s},
+            {"8021x/Phase2Auth", s}, {"8021x/Phase1PeapVer", s},
+            {"Network/Type", s}, {"Network/DNS1", s}, {"Network/DNS2", s}, {"Network/DNS3", s}, {"Network/Gateway", s},
+            {"Network/Subnet", s}, {"Network/IpAddress", s},
+            {"Layouts", QJsonValue::Array}, {"AdditionalSettingsEnabled", b}, {"USB/Enabled", b}, {"Updates/AutoAppUpdate", b},
+            {"PreferredLayout", s}, {"Screens/Sleep", n}, {"Screens/TurnOff", n}, {"Screens/Mode", n}, {"Background", s},
+            {"Config/AdminPassword", s}, {"Config/DebugLogs", b}};
+        for (const auto& key : keys)
+            QTest::newRow(qPrintable(key.first)) << key.first << key.second;
+    }
+    void reportHasEveryKey()
+    {
+        QFETCH(QString, path);
+        QFETCH(int, type);
+        const QJsonObject report = APICollectorThread::collect();
+        const QStringList parts = path.split('/');
+        QJsonValue value = report.value(parts.first());
+        if (parts.size() == 2) {
+            QVERIFY2(value.isObject(), qPrintable(parts.first()));
+            QVERIFY2(value.toObject().contains(parts.last()), qPrintable(path));
+            value = value.toObject().value(parts.last());
+        }
+        QCOMPARE(int(value.type()), type);
+        // Nothing the report does not know how to fill, and nothing the push would refuse.
+        static const QStringList groups{"DateTime", "Printers", "Sound", "System", "KeyboardMouse", "WiFi", "8021x",
+                                        "Network", "Layouts", "AdditionalSettingsEnabled", "USB", "Updates",
+                                        "PreferredLayout", "Screens", "Background", "Config"};
+        QCOMPARE(report.keys().size(), groups.size());
+    }
+
+    // The report pushed back unchanged skips nothing: both sides speak the same document.
+    void reportPushedBackSkipsNothing()
+    {
+        const QJsonObject report = APICollectorThread::collect();
+        QJsonObject document = report;
+        document.remove("Background"); // the built-in background shows: there is no image to send
+        QCOMPARE(report.value("Background").toString(), QString());
+        const QStringList skipped = push(document);
+        // The simulated zone is not one of the screen's labels, so the report leaves it empty.
+        QCOMPARE(skipped, QStringList{"DateTime/Timezone"});
+    }
+
     // The pointer speed is a number from -1 to 1; an integer is the same number.
     void pointerSpeed_data()
     {
