@@ -1,7 +1,8 @@
-// libFuzzer target: the agent's request handler and the connection wire mapping.
+// libFuzzer target: the agent's request handler, the connection wire mapping and the settings push.
 // The first byte picks the entry point; the rest is the frame text.
 #include "APIManager.h"
 #include "ConnectionWire.h"
+#include "SettingsPush.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -53,6 +54,22 @@ void checkWire(const QByteArray& text)
     ConnectionWire::toWire(document.object());
 }
 
+// A settings document applied on the simulated terminal: whatever it holds, every key it skips is
+// one of its own members, named "Group" or "Group/Key".
+void checkPush(const QByteArray& text)
+{
+    const QJsonObject document = QJsonDocument::fromJson(text).object();
+    const QStringList skipped = SettingsPush(SettingsPush::Targets()).apply(document);
+    for (const QString& name : skipped) {
+        const QStringList parts = name.split(QLatin1Char('/'));
+        if (!document.contains(parts.first()))
+            std::abort();
+        if (parts.size() == 2 && !document.value(parts.first()).toObject().contains(parts.last()))
+            std::abort();
+    }
+    SettingsPush::decodeImage(QString::fromUtf8(text));
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
@@ -62,7 +79,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     if (size == 0)
         return 0;
     const QByteArray text(reinterpret_cast<const char*>(data) + 1, int(size - 1));
-    switch (data[0] % 3) {
+    switch (data[0] % 4) {
     case 0:
         g_sent.clear();
         APIManager::getInstance()->handleRequest(QString::fromUtf8(text));
@@ -72,6 +89,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         break;
     case 1:
         checkWire(text);
+        break;
+    case 3:
+        checkPush(text);
         break;
     default:
         APIManager::tunnelHost(QString::fromUtf8(text));
