@@ -8,15 +8,18 @@
 //                                            "... CORRUPT <reason>" per file, then "STRAY <path>" for
 //                                            every leftover temporary file
 //
-// Every generation g gives each file a content that names g, so a check can tell the previous
-// version from the next one and both from a mixture. Runs under NORBIX_SIMULATE=1 and NORBIX_ROOT.
+// Every generation g gives each file a content that names g (display.ini's screen timers each a
+// part of g), so a check can tell the previous version from the next one and both from a mixture. Runs under NORBIX_SIMULATE=1 and NORBIX_ROOT.
 
 #include "APIManager.h"
 #include "Connection.h"
 #include "ConnectionManager.h"
+#include "NetworkManager.h"
 #include "PasswordManager.h"
 #include "SettingsManager.h"
+#include "SettingsPush.h"
 #include "SystemPaths.h"
+#include "TimeBackend.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -121,6 +124,8 @@ Found checkIni(const QString& path, const QString& key, const QString& prefix, c
     for (const QString& other : kept)
         if (!settings.contains(other))
             return corrupt(QStringLiteral("lost the key ") + other);
+    if (!settings.contains(key))
+        return {}; // not written yet: the seeded file holds only the kept keys
     const std::optional<qint64> generation = generationOf(settings.value(key).toString(), prefix);
     if (!generation)
         return corrupt(QStringLiteral("%1 is \"%2\"").arg(key, settings.value(key).toString()));
@@ -167,6 +172,92 @@ Found checkExports()
     return {sets, {}};
 }
 
+// The settings document of generation g, as tests/powercut/powercut.py's server pushes it: the
+// 802.1X certificate and key and the server's wallpaper name g.
+QJsonObject pushDocument(qint64 generation)
+{
+    const QByteArray image = QByteArray("\x89PNG\r\n\x1a\n") + "gen-" + QByteArray::number(generation);
+    return {{QStringLiteral("8021x"), QJsonObject{{QStringLiteral("EAP"), QStringLiteral("tls")},
+                                                  {QStringLiteral("CACert"), QStringLiteral("ca-cert-%1\n").arg(generation)},
+                                                  {QStringLiteral("Key"), QStringLiteral("key-%1\n").arg(generation)}}},
+            {QStringLiteral("Background"), QString::fromLatin1(image.toBase64())}};
+}
+
+QJsonObject pushTimerDocument(const QString& key, int index)
+{
+    return {{QStringLiteral("Screens"), QJsonObject{{key, index}}}};
+}
+
+// A file that holds exactly prefix + g + "\n".
+Found checkLine(const char* name, const QString& prefix)
+{
+    return checkText(data(name), [prefix](const QByteArray& text) -> std::optional<qint64> {
+        if (!text.endsWith('\n'))
+            return std::nullopt;
+        return generationOf(QString::fromUtf8(text.chopped(1)), prefix);
+    });
+}
+
+Found checkWallpaper()
+{
+    return checkText(data("wallpaper/serverWallpaper.jpg"), [](const QByteArray& text) -> std::optional<qint64> {
+        const QByteArray head("\x89PNG\r\n\x1a\n");
+        if (!text.startsWith(head))
+            return std::nullopt;
+        return generationOf(QString::fromLatin1(text.mid(head.size())), QStringLiteral("gen-"));
+    });
+}
+
+// One screen timer of display.ini: an index 0-4.
+Found checkDisplayTimer(const QString& key)
+{
+    const QString path = data("display.ini");
+    if (!QFile::exists(path))
+        return {};
+    QSettings settings(path, QSettings::IniFormat);
+    if (!settings.contains(key))
+        return {};
+    bool ok = false;
+    const int index = settings.value(key).toInt(&ok);
+    if (settings.status() != QSettings::NoError || !ok || index < 0 || index > 4)
+        return corrupt(QStringLiteral("%1 is \"%2\"").arg(key, settings.value(key).toString()));
+    return {index, {}};
+}
+
+// networks.json: 1-4 entries named "net-<g>-<i>".
+void writeNetworkFlags(qint64 generation)
+{
+    QJsonArray networks;
+    for (int i = 0; i < recordCount(generation); ++i)
+        networks.append(QJsonObject{{QStringLiteral("ssid"), QStringLiteral("net-%1-%2").arg(generation).arg(i)},
+                                    {QStringLiteral("autoConnect"), i == 0},
+                                    {QStringLiteral("showForUser"), true}});
+    NetworkManager::writeNetworks(networks);
+}
+
+Found checkNetworkFlags()
+{
+    bool exists = false;
+    const QByteArray text = readAll(NetworkManager::networksFile(), &exists);
+    if (!exists)
+        return {};
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    if (!document.isArray() || document.array().isEmpty())
+        return corrupt(QStringLiteral("not a JSON array of networks (%1 bytes)").arg(text.size()));
+    std::optional<qint64> generation;
+    const QJsonArray networks = document.array();
+    for (int i = 0; i < networks.size(); ++i) {
+        const QStringList parts = networks.at(i).toObject().value(QLatin1String("ssid")).toString().split(QLatin1Char('-'));
+        if (parts.size() != 3 || parts.at(0) != QLatin1String("net") || parts.at(2).toInt() != i
+            || (generation && *generation != parts.at(1).toLongLong()))
+            return corrupt(QStringLiteral("network %1 does not belong").arg(i));
+        generation = parts.at(1).toLongLong();
+    }
+    if (networks.size() != recordCount(*generation))
+        return corrupt(QStringLiteral("%1 networks of generation %2").arg(networks.size()).arg(*generation));
+    return {generation, {}};
+}
+
 const QList<Subject>& subjects()
 {
     static const QList<Subject> list = {
@@ -199,6 +290,25 @@ const QList<Subject>& subjects()
              manager.exportConfig(SystemPaths::resolve(QStringLiteral("/media/POWERCUT")));
          },
          {{"exported-sets", checkExports}}},
+        // The settings push: certificate files, the server's wallpaper, the screen timers.
+        {"push", [](qint64 g) { SettingsPush({}).apply(pushDocument(g)); },
+         {{"8021x/ca-cert", [] { return checkLine("8021x/ca-cert", QStringLiteral("ca-cert-")); }},
+          {"8021x/key", [] { return checkLine("8021x/key", QStringLiteral("key-")); }},
+          {"serverWallpaper.jpg", checkWallpaper}}},
+        // The screen timers name g in two parts: sleep g mod 5, turn-off g / 5 mod 5.
+        {"push-sleep", [](qint64 g) { SettingsPush({}).apply(pushTimerDocument(QStringLiteral("Sleep"), int(g % 5))); },
+         {{"display.ini", [] { return checkDisplayTimer(QStringLiteral("SleepTime")); }}}},
+        {"push-turnoff", [](qint64 g) { SettingsPush({}).apply(pushTimerDocument(QStringLiteral("TurnOff"), int(g / 5 % 5))); },
+         {{"display.ini", [] { return checkDisplayTimer(QStringLiteral("TurnOffTime")); }}}},
+        {"ntp", [](qint64 g) {
+             TimeBackend time;
+             time.setNtp(QStringLiteral("ntp-%1").arg(g));
+             time.applyWithTime();
+         },
+         {{"timesyncd.conf", [] {
+               return checkIni(data("timesyncd.conf"), QStringLiteral("Time/NTP"), QStringLiteral("ntp-"), {});
+           }}}},
+        {"networks", writeNetworkFlags, {{"networks.json", checkNetworkFlags}}},
     };
     return list;
 }
