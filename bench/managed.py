@@ -14,7 +14,7 @@ import sys
 import tempfile
 import time
 
-BUILD = sys.argv[1]
+BUILD = os.path.abspath(sys.argv[1])
 TOP = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 ROUNDS = int(os.environ.get("BENCH_IDLE_ROUNDS", "2"))
 IDLE_SECONDS = float(os.environ.get("BENCH_IDLE_SECONDS", "20"))

@@ -5,6 +5,7 @@
 #include "CertificatesStorage.h"
 #include "CommandRunner.h"
 #include "ConnectionManager.h"
+#include "ConnectorLaunchers.h"
 #include "CrashHandler.h"
 #include "FileMigration.h"
 #include "HardwareUtils.h"
@@ -134,6 +135,7 @@ int runShell(int argc, char* argv[])
     LanguageBackend::getInstance()->setEngine(&engine);
     LanguageBackend::getInstance()->asyncRead();
 
+    ConnectorLaunchers::install(); // before any screen or auto-connect starts a record
     registerQmlTypes();
     engine.addImageProvider(QStringLiteral("received"), new RawImageProvider);
 
