@@ -60,11 +60,18 @@ void checkPush(const QByteArray& text)
 {
     const QJsonObject document = QJsonDocument::fromJson(text).object();
     const QStringList skipped = SettingsPush(SettingsPush::Targets()).apply(document);
+    // Names may hold "/" themselves: some split of "Group/Key" must name a member and its key.
+    auto names = [&document](const QString& name) {
+        if (document.contains(name))
+            return true;
+        for (int at = name.indexOf(QLatin1Char('/')); at >= 0; at = name.indexOf(QLatin1Char('/'), at + 1)) {
+            if (document.value(name.left(at)).toObject().contains(name.mid(at + 1)))
+                return true;
+        }
+        return false;
+    };
     for (const QString& name : skipped) {
-        const QStringList parts = name.split(QLatin1Char('/'));
-        if (!document.contains(parts.first()))
-            std::abort();
-        if (parts.size() == 2 && !document.value(parts.first()).toObject().contains(parts.last()))
+        if (!names(name))
             std::abort();
     }
     SettingsPush::decodeImage(QString::fromUtf8(text));
