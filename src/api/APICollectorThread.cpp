@@ -69,11 +69,10 @@ QJsonObject dateTime()
 
 QJsonObject sound()
 {
-    // Its getters keep no state: safe from this thread.
-    SoundSettingsBackend* backend = SoundSettingsBackend::getInstance();
-    return {{QStringLiteral("ActiveSink"), backend->getActiveSinkName()},
-            {QStringLiteral("MicrophoneVolume"), backend->getMicrophoneVolume()},
-            {QStringLiteral("SoundVolume"), backend->getSoundVolume()},
+    // The class-wide readers: the singleton itself belongs to the screens' thread.
+    return {{QStringLiteral("ActiveSink"), SoundSettingsBackend::getActiveSinkName()},
+            {QStringLiteral("MicrophoneVolume"), SoundSettingsBackend::getMicrophoneVolume()},
+            {QStringLiteral("SoundVolume"), SoundSettingsBackend::getSoundVolume()},
             // The sound page offers no mute: sound is always on.
             {QStringLiteral("Enabled"), true}};
 }
