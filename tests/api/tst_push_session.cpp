@@ -30,6 +30,7 @@ class tst_PushSession : public QObject {
 
     PushTerminal* m_terminal = nullptr;
     MgmtPeer m_peer;
+    QJsonObject m_lastReport; // the last "setSettings" document the server received
     APIManager* api() { return APIManager::getInstance(); }
 
     void setManagedFlag(bool managed)
@@ -54,6 +55,12 @@ private slots:
         // The terminal's own changes reach the agent as start-up wires them.
         SettingsChange::setReporter([] { APIManager::getInstance()->updateSettings(); });
         USBManager::setUsbEnabled(false);
+        // Debug logging as the log manager keeps it.
+        APIManager::Services services;
+        services.setDebugEnabled = [this](bool enabled) {
+            QSettings(m_terminal->sandbox.dataFile("api.ini"), QSettings::IniFormat).setValue("DebugLogs", enabled);
+        };
+        APIManager::setServices(services);
         QVERIFY(m_peer.start());
         AgentHarness::setManaged(m_terminal->sandbox, true, m_peer.url());
         api()->setTiming({300, 200, 60000});
@@ -110,7 +117,30 @@ private slots:
         const QJsonObject report = m_peer.received();
         QCOMPARE(report.value("action").toString(), QStringLiteral("setSettings"));
         QCOMPARE(report.value("data").toObject().value("USB").toObject().value("Enabled"), QJsonValue(false));
+        m_lastReport = report.value("data").toObject();
         expectNothingBefore(503);
+    }
+
+    // A document with only "Config" changes the administrator password and debug logging, nothing else.
+    void configChangesOnlyPasswordAndLogging()
+    {
+        m_terminal->clear();
+        m_peer.send(R"(getSettings {"Config":{"AdminPassword":"n3w-admin","DebugLogs":true}})");
+        QCOMPARE(m_peer.received().value("action").toString(), QStringLiteral("getSettings"));
+        const QJsonObject report = m_peer.received();
+        QCOMPARE(report.value("action").toString(), QStringLiteral("setSettings"));
+        QJsonObject document = report.value("data").toObject();
+        QCOMPARE(document.value("Config").toObject(),
+                 (QJsonObject{{"AdminPassword", "n3w-admin"}, {"DebugLogs", true}}));
+        document.remove("Config");
+        QJsonObject before = m_lastReport;
+        before.remove("Config");
+        QCOMPARE(document, before);
+        // Nothing was run to apply it: the commands are the report's readings only, each once.
+        const QStringList commands = m_terminal->commands();
+        QCOMPARE(QSet<QString>(commands.begin(), commands.end()).size(), commands.size());
+        QVERIFY2(m_terminal->busMethods() == (QStringList{"GetSettings"}), qPrintable(m_terminal->busMethods().join(',')));
+        expectNothingBefore(505);
     }
 
     // Out of management the terminal neither answers nor acts: the push changes nothing, a
