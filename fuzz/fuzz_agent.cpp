@@ -1,8 +1,9 @@
-// libFuzzer target: the agent's request handler and the connection wire mapping.
+// libFuzzer target: the agent's request handler, the connection wire mapping and the settings push.
 // The first byte picks the entry point; the rest is the frame text.
 #include "APIManager.h"
 #include "ConnectionWire.h"
 #include "JsonText.h"
+#include "SettingsPush.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -54,6 +55,29 @@ void checkWire(const QByteArray& text)
     ConnectionWire::toWire(document.object());
 }
 
+// A settings document applied on the simulated terminal: whatever it holds, every key it skips is
+// one of its own members, named "Group" or "Group/Key".
+void checkPush(const QByteArray& text)
+{
+    const QJsonObject document = QJsonDocument::fromJson(text).object();
+    const QStringList skipped = SettingsPush(SettingsPush::Targets()).apply(document);
+    // Names may hold "/" themselves: some split of "Group/Key" must name a member and its key.
+    auto names = [&document](const QString& name) {
+        if (document.contains(name))
+            return true;
+        for (int at = name.indexOf(QLatin1Char('/')); at >= 0; at = name.indexOf(QLatin1Char('/'), at + 1)) {
+            if (document.value(name.left(at)).toObject().contains(name.mid(at + 1)))
+                return true;
+        }
+        return false;
+    };
+    for (const QString& name : skipped) {
+        if (!names(name))
+            std::abort();
+    }
+    SettingsPush::decodeImage(QString::fromUtf8(text));
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
@@ -63,7 +87,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     if (size == 0)
         return 0;
     const QByteArray text(reinterpret_cast<const char*>(data) + 1, int(size - 1));
-    switch (data[0] % 3) {
+    switch (data[0] % 4) {
     case 0:
         g_sent.clear();
         APIManager::getInstance()->handleRequest(QString::fromUtf8(text));
@@ -73,6 +97,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         break;
     case 1:
         checkWire(text);
+        break;
+    case 3:
+        checkPush(text);
         break;
     default:
         APIManager::tunnelHost(QString::fromUtf8(text));

@@ -4,14 +4,24 @@
 #include <QMutex>
 #include <QObject>
 
+#include <functional>
+
 // Gathers the terminal's settings document for the management server on a thread of its own,
-// so that slow backends (lpstat, ...) never hold up the session. Reports only real changes.
+// so that slow backends (lpstat, nmcli, pacmd, ...) never hold up the session. Reports only real
+// changes, and gathers only when asked: an idle terminal runs nothing.
 class APICollectorThread : public QObject {
     Q_OBJECT
 public:
     using QObject::QObject;
 
-    // The document as the backends tell it now (runs on the caller's thread).
+    // Settings of subsystems the agent does not link; start-up plugs them in. Unset: false.
+    struct Sources {
+        std::function<bool()> autoUpdateEnabled;
+    };
+    static void setSources(const Sources& sources);
+
+    // The document as the backends tell it now (runs on the caller's thread). Every command it
+    // runs, it runs once.
     static QJsonObject collect();
 
     // The last gathered document, at once, from any thread.

@@ -10,7 +10,9 @@
 #include "HeartbeatWorker.h"
 #include "JsonText.h"
 #include "NetworkParsers.h"
+#include "PasswordManager.h"
 #include "QmlSingleton.h"
+#include "SettingsPush.h"
 #include "SystemLoad.h"
 #include "SystemPaths.h"
 
@@ -419,6 +421,9 @@ void APIManager::sendArray(const QString& action, const QJsonArray& data)
 
 void APIManager::onSettingsCollected(const QJsonObject& document)
 {
+    // Nothing of the terminal's own goes out before the server's first document of this run.
+    if (!m_canUpdate)
+        return;
     m_lastSettings = document;
     const QString text = compact(QJsonObject{{kAction, QStringLiteral("setSettings")}, {kData, document}});
     qDebug().noquote() << "set settings " + text;
@@ -433,7 +438,7 @@ void APIManager::updateConnections(const QList<Connection>& connections)
 
 void APIManager::updateSettings()
 {
-    if (!isEnabled() || !m_canUpdate)
+    if (!isEnabled() || !m_canUpdate || m_applyingPush)
         return;
     qDebug() << "Requesting settings update";
     emit requestSettingsUpdate(true);
@@ -446,6 +451,11 @@ void APIManager::handleRequest(const QString& text)
     const QJsonObject request = JsonText::parse(text.toUtf8()).object();
     qDebug().noquote() << "received: " + text;
     const QString action = request.value(kAction).toString();
+    // Out of management the terminal takes no orders: no reboot, tunnel or catalogue on a server's word.
+    if (!isEnabled()) {
+        qWarning().noquote() << "Ignored request \"" + action + "\": managed mode is off";
+        return;
+    }
 
     QJsonObject answer;
     if (request.contains(QLatin1String("id")))
@@ -538,10 +548,21 @@ QJsonValue APIManager::handleSettings(const QJsonObject& request)
         qWarning() << "Settings from server are not a document; ignored";
         return QJsonValue::Undefined;
     }
+    SettingsPush::Targets targets;
+    targets.setAdminPassword = [](const QString& password) { PasswordManager().setPassword(password); };
+    targets.setDebugEnabled = services().setDebugEnabled;
+    targets.setAutoUpdateEnabled = services().setAutoUpdateEnabled;
+    targets.setAdvancedEnabled = [this](bool enabled) { setAdvancedEnabled(enabled); };
+    m_applyingPush = true;
+    const QStringList skipped = SettingsPush(targets).apply(data.toObject());
+    m_applyingPush = false;
+    if (!skipped.isEmpty())
+        qWarning().noquote() << "Settings from server not applied: " + skipped.join(QStringLiteral(", "));
     m_lastSettings = data.toObject();
     emit updated();
     m_canUpdate = true;
     qInfo() << "Received config from server";
+    updateSettings(); // what the push changed goes back as one report
     return QJsonValue::Undefined;
 }
 

@@ -38,6 +38,9 @@ public:
         std::function<void(const QString& name)> removeCertificate;
         std::function<void()> cleanCertificates;
         std::function<bool(const QString& name, const QString& cert, const QString& pass)> addCertificateFromServer;
+        // Settings the server pushes into subsystems above the agent (logging, updater).
+        std::function<void(bool enabled)> setDebugEnabled;
+        std::function<void(bool enabled)> setAutoUpdateEnabled;
     };
 
     // The session's clocks; tests shorten them.
@@ -148,4 +151,5 @@ private:
     QTimer* m_watchdog = nullptr;
     Timing m_timing;
     std::function<void(const QString&)> m_transport;
+    bool m_applyingPush = false; // the push's own changes are reported once, when it is done
 };

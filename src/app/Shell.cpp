@@ -1,13 +1,16 @@
 #include "Shell.h"
 
+#include "APICollectorThread.h"
 #include "APIManager.h"
 #include "CertificatesStorage.h"
 #include "CommandRunner.h"
 #include "ConnectionManager.h"
+#include "ConnectorLaunchers.h"
 #include "CrashHandler.h"
 #include "FileMigration.h"
 #include "HardwareUtils.h"
 #include "LanguageBackend.h"
+#include "LogManager.h"
 #include "Logging.h"
 #include "MouseSettingsBackend.h"
 #include "NetworkManager.h"
@@ -84,7 +87,12 @@ void connectAgent()
     services.addCertificateFromServer = [](const QString& name, const QString& cert, const QString& pass) {
         return CertificatesStorage::addCertificateFromServer(name, cert, pass) == QLatin1String("ok");
     };
+    services.setDebugEnabled = [](bool enabled) { LogManager().setDebugEnabled(enabled); };
+    services.setAutoUpdateEnabled = [](bool enabled) { Updater::getInstance()->setAutoUpdateEnabled(enabled); };
     APIManager::setServices(services);
+    APICollectorThread::Sources sources;
+    sources.autoUpdateEnabled = [] { return Updater::getInstance()->isAutoUpdateEnabled(); };
+    APICollectorThread::setSources(sources);
     SettingsChange::setReporter([] { APIManager::getInstance()->updateSettings(); });
 }
 
@@ -127,6 +135,7 @@ int runShell(int argc, char* argv[])
     LanguageBackend::getInstance()->setEngine(&engine);
     LanguageBackend::getInstance()->asyncRead();
 
+    ConnectorLaunchers::install(); // before any screen or auto-connect starts a record
     registerQmlTypes();
     engine.addImageProvider(QStringLiteral("received"), new RawImageProvider);
 

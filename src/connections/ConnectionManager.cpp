@@ -1,14 +1,7 @@
 #include "ConnectionManager.h"
 
-#include "BrowserConnector.h"
-#include "CitrixConnector.h"
 #include "ConnectionStore.h"
-#include "PuttyConnector.h"
-#include "RDPConnector.h"
 #include "SystemPaths.h"
-#include "TeamsConnector.h"
-#include "VMWareConnector.h"
-#include "VNCConnector.h"
 
 #include <QDebug>
 #include <QJsonArray>
@@ -18,6 +11,12 @@
 ConnectionManager* ConnectionManager::m_instance = nullptr;
 
 namespace {
+QHash<int, ConnectionManager::Launcher>& launchers()
+{
+    static QHash<int, ConnectionManager::Launcher> table;
+    return table;
+}
+
 ConnectionManager::ChangeReporter& reporter()
 {
     static ConnectionManager::ChangeReporter instance;
@@ -194,27 +193,18 @@ void ConnectionManager::reload()
 
 bool ConnectionManager::launch(const Connection& connection)
 {
-    switch (connection.getInt(QStringLiteral("type"))) {
-    case VMWare:
-        VMWareConnector::connect(connection);
-        return true;
-    case VNC:
-        return VNCConnector::getInstance()->initConnection(connection);
-    case Citrix:
-        return CitrixConnector::getInstance()->connect(connection);
-    case RDP:
-        return RDPConnector::getInstance()->initConnection(RDPConnector::createConnectionString(connection));
-    case Browser:
-        BrowserConnector::connect(connection);
-        return true;
-    case Teams:
-        TeamsConnector::connect();
-        return true;
-    case Putty:
-        return PuttyConnector::getInstance()->initConnection(connection);
-    default:
+    const int type = connection.getInt(QStringLiteral("type"));
+    const Launcher launcher = launchers().value(type);
+    if (!launcher) {
+        qWarning() << "No launcher for connection type" << type;
         return false;
     }
+    return launcher(connection);
+}
+
+void ConnectionManager::setLaunchers(const QHash<int, Launcher>& table)
+{
+    launchers() = table;
 }
 
 bool ConnectionManager::connectToIndex(int index)

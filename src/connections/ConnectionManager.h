@@ -2,6 +2,7 @@
 
 #include "Connection.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QStringList>
@@ -12,7 +13,8 @@ class QQmlEngine;
 class QJSEngine;
 
 // The catalogue: reads and writes connections.json and connections.ini, starts records through
-// their kind's connector, and runs the auto-connect entries once at start.
+// their kind's launcher, and runs the auto-connect entries once at start. It knows no connector:
+// start-up hands it one launcher per ConnectionType.
 class ConnectionManager : public QObject {
     Q_OBJECT
 public:
@@ -42,8 +44,12 @@ public:
     void setConnections(const QList<Connection>& connections);
     bool shouldAutoConnect(int index);
 
-    // Starts one record by its kind; false when the kind's connector refuses or the kind is unknown.
+    // Starts one record by its kind; false when the kind's launcher refuses or the kind has none.
     static bool launch(const Connection& connection);
+
+    // Starts one record of a kind (its connector); by ConnectionType.
+    using Launcher = std::function<bool(const Connection&)>;
+    static void setLaunchers(const QHash<int, Launcher>& launchers);
 
     // Where every local change of the catalogue is reported (the management-server client).
     using ChangeReporter = std::function<void(const QList<Connection>&)>;

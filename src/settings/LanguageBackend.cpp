@@ -4,6 +4,7 @@
 #include "InputParsers.h"
 #include "MouseSettingsBackend.h"
 #include "QmlSingleton.h"
+#include "SettingsChange.h"
 #include "SystemPaths.h"
 
 #include <QCoreApplication>
@@ -176,6 +177,7 @@ bool LanguageBackend::updateLanguage(int index)
         m_engine->retranslate();
     QSettings(languageIni(), QSettings::IniFormat).setValue(QStringLiteral("Language"), code);
     emit languageChanged(index);
+    SettingsChange::report();
     return true;
 }
 

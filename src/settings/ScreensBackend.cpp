@@ -182,6 +182,14 @@ void ScreensBackend::setMode(int mode)
     m_mode = mode == 1 ? 1 : 0;
 }
 
+void ScreensBackend::saveMode(int mode)
+{
+    setMode(mode);
+    qInfo().noquote() << "Set mode to " + QString::number(m_mode);
+    QSettings(displayIni(), QSettings::IniFormat).setValue(QStringLiteral("Mode"), m_mode);
+    SettingsChange::report();
+}
+
 int ScreensBackend::getMode() const
 {
     return QSettings(displayIni(), QSettings::IniFormat).value(QStringLiteral("Mode"), 0).toInt();

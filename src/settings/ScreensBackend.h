@@ -49,6 +49,8 @@ public:
     Q_INVOKABLE void makePrimary(const QString& output);
     Q_INVOKABLE void setMode(int mode);
     Q_INVOKABLE int getMode() const;
+    // Stores the mode for the next replay of the saved arrangement (loadInitial) and stages it.
+    void saveMode(int mode);
     Q_INVOKABLE bool isMirroring() const;
     Q_INVOKABLE void setScreenAt(const QString& output, int index);
     Q_INVOKABLE void swap(int first, int second);

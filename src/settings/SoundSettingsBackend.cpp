@@ -70,6 +70,12 @@ int SoundSettingsBackend::getActiveSink()
     return SoundParsers::parseSinks(bash(QStringLiteral("pacmd list-sinks")).standardOutput).active;
 }
 
+QString SoundSettingsBackend::getActiveSinkName()
+{
+    const SoundParsers::SinkList sinks = SoundParsers::parseSinks(bash(QStringLiteral("pacmd list-sinks")).standardOutput);
+    return sinks.names.value(sinks.active);
+}
+
 void SoundSettingsBackend::setActiveSink(int index)
 {
     qInfo().nospace().noquote() << "Set active sink to " << index;

@@ -2,6 +2,7 @@
 
 #include "CommandRunner.h"
 #include "QmlSingleton.h"
+#include "SettingsChange.h"
 #include "SystemPaths.h"
 #include "TimeZoneTable.h"
 
@@ -193,6 +194,7 @@ void TimeBackend::applyWithTime()
     logNtpStep(runner.runCommandLine(QStringLiteral("sudo cp /data/norbix/timesyncd.conf /etc/systemd/timesyncd.conf")));
 
     setTimezoneNow();
+    SettingsChange::report();
 }
 
 void TimeBackend::apply()
@@ -200,6 +202,7 @@ void TimeBackend::apply()
     writeFormat();
     sudoTimedatectl({QStringLiteral("set-ntp"), QStringLiteral("0")});
     setTimezoneNow();
+    SettingsChange::report();
 }
 
 QString TimeBackend::format(const QDateTime& dateTime, const QString& pattern) const

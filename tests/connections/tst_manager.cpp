@@ -1,5 +1,6 @@
 #include "CitrixConnector.h"
 #include "ConnectionManager.h"
+#include "ConnectorLaunchers.h"
 #include "FakeCommandRunner.h"
 #include "RDPConnector.h"
 #include "TestSandbox.h"
@@ -30,6 +31,8 @@ class tst_Manager : public QObject {
     }
 
 private slots:
+    // Start-up hands the catalogue its launchers; so does this test.
+    void initTestCase() { ConnectorLaunchers::install(); }
     void init()
     {
         m_sandbox = new TestSandbox;

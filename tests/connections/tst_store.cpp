@@ -1,4 +1,5 @@
 #include "ConnectionManager.h"
+#include "ConnectorLaunchers.h"
 #include "ConnectionStore.h"
 #include "FakeCommandRunner.h"
 #include "PasswordCipher.h"
@@ -36,6 +37,8 @@ class tst_Store : public QObject {
     void writeCatalogue(const QByteArray& json) { TestSandbox::writeFile(m_sandbox->dataFile(QStringLiteral("connections.json")), json); }
 
 private slots:
+    // Start-up hands the catalogue its launchers; so does this test.
+    void initTestCase() { ConnectorLaunchers::install(); }
     void init()
     {
         m_sandbox = new TestSandbox;

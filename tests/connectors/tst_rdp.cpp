@@ -1,4 +1,5 @@
 #include "ConnectionManager.h"
+#include "ConnectorLaunchers.h"
 #include "FakeCommandRunner.h"
 #include "RDPConnectDialogBackend.h"
 #include "RDPConnector.h"
@@ -23,6 +24,8 @@ class tst_Rdp : public QObject {
     TestSandbox* m_sandbox = nullptr;
 
 private slots:
+    // Start-up hands the catalogue its launchers; so does this test.
+    void initTestCase() { ConnectorLaunchers::install(); }
     void init()
     {
         m_sandbox = new TestSandbox;

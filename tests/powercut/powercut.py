@@ -3,7 +3,8 @@
 
 Two kinds of victims, each killed with SIGKILL at a random moment while it writes:
   shell   the real norbix-shell in the simulated terminal, managed by a server of ours that sends it
-          catalogue after catalogue ("getConnections" with data), each one acknowledged before the next
+          catalogue after catalogue ("getConnections" with data) and settings document after settings
+          document ("getSettings" with data), each one acknowledged before the next
   driver  powercut_driver, which writes every other file through the shell's own backends, one
           generation after another
 After every kill, `powercut_driver check` reads what is on disk with the shell's readers; each file
@@ -15,6 +16,7 @@ Prints one line per failure and a summary; exits 1 on any corrupt, lost or mixed
 
 import argparse
 import asyncio
+import base64
 import json
 import os
 import random
@@ -25,6 +27,31 @@ import tempfile
 import time
 
 import websockets
+
+
+# Subjects whose files name only part of a generation: display.ini's two screen timers, each an
+# index 0-4, written one after the other (a cut between them leaves one of each document).
+PART_OF = {"push-sleep": lambda g: g % 5, "push-turnoff": lambda g: g // 5 % 5}
+
+# What the shell's server pushes; the driver's checks know these files.
+SHELL_SUBJECTS = {"catalogue", "push", "push-sleep", "push-turnoff"}
+
+
+class OnDisk:
+    """A value a check found on disk: already what the file says, not a generation to convert."""
+
+    def __init__(self, value):
+        self.value = value
+
+    def __eq__(self, other):
+        return isinstance(other, OnDisk) and other.value == self.value
+
+    def __hash__(self):
+        return hash(("OnDisk", self.value))
+
+
+def on_disk_value(value):
+    return None if value is None else OnDisk(value)
 
 
 class Harness:
@@ -70,11 +97,12 @@ class Harness:
         print(f"FAIL {kind} kill {cycle}: {text}", flush=True)
 
     def judge(self, kind, cycle, found, allowed, subjects):
-        """allowed: {(subject, file): set of generations (None for "not written yet")}."""
+        """allowed: {subject or (subject, file): set of generations (None for "not written yet";
+        OnDisk(value) for a value found on disk before, taken as it is)}."""
         for (subject, file), state in found.items():
+            options = allowed.get((subject, file), allowed.get(subject, {None}))
             if subject not in subjects:
                 continue
-            options = allowed.get((subject, file), {None})
             if state[0] == "CORRUPT":
                 self.fail(kind, cycle, f"{file} is corrupt: {state[1]}")
             elif subject == "export":
@@ -82,9 +110,13 @@ class Harness:
             elif state[0] == "ABSENT":
                 if None not in options:
                     self.fail(kind, cycle, f"{file} is gone")
-            elif state[1] not in options:
-                self.fail(kind, cycle, f"{file} holds generation {state[1]}, expected one of "
-                                       f"{sorted(g for g in options if g is not None)}")
+            else:
+                part = PART_OF.get(subject)
+                options = {g.value if isinstance(g, OnDisk) else g if part is None or g is None else part(g)
+                           for g in options}
+                if state[1] not in options:
+                    self.fail(kind, cycle, f"{file} holds generation {state[1]}, expected one of "
+                                           f"{sorted(g for g in options if g is not None)}")
 
     # --- the driver ----------------------------------------------------------------------------
 
@@ -96,7 +128,7 @@ class Harness:
                 seed.write("[General]\nEnabled=false\nURL=ws://127.0.0.1:1/api/v1/ws\n")
             with open(os.path.join(root, "data", "norbix", "keyboard.ini"), "w") as seed:
                 seed.write("[General]\nSensetivity=0.5\n")
-            on_disk = {}  # (subject, file) -> generation found after the last kill
+            on_disk = {}  # (subject, file) -> what the check found after the last kill
             generation = 1
             for cycle in range(1, count + 1):
                 process = subprocess.Popen([self.driver, "write", str(generation)], env=self.environment(root),
@@ -118,12 +150,10 @@ class Harness:
                 allowed = {}
                 for key in found:
                     subject = key[0]
-                    options = {done[subject]} if subject in done else {on_disk.get(key)}
+                    options = {done[subject]} if subject in done else {on_disk_value(on_disk.get(key))}
                     if subject in begun and begun[subject] != done.get(subject):
                         options.add(begun[subject])
                     allowed[key] = options
-                if os.environ.get("POWERCUT_DEBUG"):
-                    print(cycle, "begun", begun, "done", done, "on_disk", on_disk, "found", found, flush=True)
                 self.judge("driver", cycle, found, allowed, {s for s, _ in found})
                 for key, state in found.items():
                     if state[0] == "GEN":
@@ -136,6 +166,15 @@ class Harness:
         return [{"Type": "RDP", "Name": f"pc-{generation}-{i}", "Address": f"10.1.{generation % 250}.{i}",
                  "AccountUsername": "user", "AccountPassword": f"pw-{generation}"}
                 for i in range(1 + generation % 4)]
+
+    @staticmethod
+    def settings(generation):
+        """The settings document of a generation, as powercut_driver's pushDocument and
+        pushDisplayDocument make it."""
+        image = b"\x89PNG\r\n\x1a\n" + f"gen-{generation}".encode()
+        return {"8021x": {"EAP": "tls", "CACert": f"ca-cert-{generation}\n", "Key": f"key-{generation}\n"},
+                "Background": base64.b64encode(image).decode(),
+                "Screens": {"Sleep": generation % 5, "TurnOff": generation // 5 % 5}}
 
     async def shell_kills(self, count):
         sessions = asyncio.Queue()
@@ -151,42 +190,51 @@ class Harness:
                 os.makedirs(os.path.join(root, "data", "norbix"))
                 with open(os.path.join(root, "data", "norbix", "api.ini"), "w") as seed:
                     seed.write(f"[General]\nEnabled=true\nURL=ws://127.0.0.1:{port}/api/v1/ws\n")
-                on_disk = None
+                on_disk = {}  # (subject, file) -> generation found after the last kill, as written
                 generation = 1
                 for cycle in range(1, count + 1):
                     acked, sent, generation = await self.shell_cycle(root, sessions, generation)
                     self.kills["shell"] += 1
-                    allowed = {("catalogue", "connections.json"): {acked if acked is not None else on_disk, sent}}
                     found = await self.check_async(root)
-                    self.judge("shell", cycle, found, allowed, {"catalogue"})
-                    state = found.get(("catalogue", "connections.json"))
-                    if state and state[0] == "GEN":
-                        on_disk = state[1]
+                    allowed = {}
+                    for subject, file in found:
+                        if subject not in SHELL_SUBJECTS:
+                            continue
+                        kind = "catalogue" if subject == "catalogue" else "push"
+                        allowed[(subject, file)] = {acked[kind] if kind in acked else on_disk_value(on_disk.get((subject, file))),
+                                                    sent.get(kind)}
+                    self.judge("shell", cycle, found, allowed, SHELL_SUBJECTS)
+                    for key, state in found.items():
+                        if key[0] in SHELL_SUBJECTS and state[0] == "GEN":
+                            on_disk[key] = state[1]
 
     async def shell_cycle(self, root, sessions, generation):
-        """Starts the shell, feeds it catalogues until a random moment, kills it; returns the last
-        acknowledged and the last sent generation and the next one to use."""
+        """Starts the shell, feeds it catalogues and settings documents, one of each per generation,
+        until a random moment, kills it; returns the last acknowledged and the last sent generation
+        of each kind and the next one to use."""
         # Started and reaped outside asyncio: its child watcher and a SIGKILL from elsewhere disagree.
         process = subprocess.Popen([self.shell, "--size", "800x600"], env=self.environment(root), cwd=self.build,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         loop = asyncio.get_running_loop()
-        acked = sent = None
+        acked, sent = {}, {}
         try:
             websocket = await asyncio.wait_for(sessions.get(), 60)
             await websocket.send(json.dumps({"action": "auth", "id": 0}))
             killer = loop.call_later(self.rng.uniform(0.0, 0.5), process.kill)
             try:
                 while True:
-                    sent = generation
+                    current = generation
                     generation += 1
-                    await websocket.send(json.dumps({"action": "getConnections", "id": sent,
-                                                     "data": self.catalogue(sent)}))
-                    while True:
-                        frame = json.loads(await websocket.recv())
-                        if frame.get("action") == "getConnections" and frame.get("id") == sent:
-                            acked = sent
-                            self.writes["shell"] += 1
-                            break
+                    for kind, action, data in (("catalogue", "getConnections", self.catalogue(current)),
+                                               ("push", "getSettings", self.settings(current))):
+                        sent[kind] = current
+                        await websocket.send(json.dumps({"action": action, "id": current, "data": data}))
+                        while True:
+                            frame = json.loads(await websocket.recv())
+                            if frame.get("action") == action and frame.get("id") == current:
+                                acked[kind] = current
+                                self.writes["shell"] += 1
+                                break
             except websockets.ConnectionClosed:
                 pass
             finally:

@@ -8,8 +8,8 @@
 //                                            "... CORRUPT <reason>" per file, then "STRAY <path>" for
 //                                            every leftover temporary file
 //
-// Every generation g gives each file a content that names g, so a check can tell the previous
-// version from the next one and both from a mixture. Runs under NORBIX_SIMULATE=1 and NORBIX_ROOT.
+// Every generation g gives each file a content that names g (display.ini's screen timers each a
+// part of g), so a check can tell the previous version from the next one and both from a mixture. Runs under NORBIX_SIMULATE=1 and NORBIX_ROOT.
 
 #include "APIManager.h"
 #include "Connection.h"
@@ -18,6 +18,7 @@
 #include "NetworkManager.h"
 #include "PasswordManager.h"
 #include "SettingsManager.h"
+#include "SettingsPush.h"
 #include "SystemPaths.h"
 #include "TimeBackend.h"
 #include "WallpapersManager.h"
@@ -126,7 +127,7 @@ Found checkIni(const QString& path, const QString& key, const QString& prefix, c
         if (!settings.contains(other))
             return corrupt(QStringLiteral("lost the key ") + other);
     if (!settings.contains(key))
-        return {}; // seeded, not written yet: a lost key shows when the harness expects one
+        return {}; // not written yet: the seeded file holds only the kept keys
     const std::optional<qint64> generation = generationOf(settings.value(key).toString(), prefix);
     if (!generation)
         return corrupt(QStringLiteral("%1 is \"%2\"").arg(key, settings.value(key).toString()));
@@ -173,41 +174,95 @@ Found checkExports()
     return {sets, {}};
 }
 
-// networks.json: the approved networks "net-<n>" of recent generations (a kill between the two
-// writes leaves one behind); the one that connects by itself is this generation's.
-void writeNetworks(qint64 generation)
+// The settings document of generation g, as tests/powercut/powercut.py's server pushes it: the
+// 802.1X certificate and key and the server's wallpaper name g.
+QJsonObject pushDocument(qint64 generation)
 {
-    NetworkManager network;
-    network.deleteStoredConnection(QStringLiteral("net-%1").arg(generation - 8));
-    network.setAutoConnect(QStringLiteral("net-%1").arg(generation), true);
+    const QByteArray image = QByteArray("\x89PNG\r\n\x1a\n") + "gen-" + QByteArray::number(generation);
+    return {{QStringLiteral("8021x"), QJsonObject{{QStringLiteral("EAP"), QStringLiteral("tls")},
+                                                  {QStringLiteral("CACert"), QStringLiteral("ca-cert-%1\n").arg(generation)},
+                                                  {QStringLiteral("Key"), QStringLiteral("key-%1\n").arg(generation)}}},
+            {QStringLiteral("Background"), QString::fromLatin1(image.toBase64())}};
 }
 
-Found checkNetworks()
+QJsonObject pushTimerDocument(const QString& key, int index)
+{
+    return {{QStringLiteral("Screens"), QJsonObject{{key, index}}}};
+}
+
+// A file that holds exactly prefix + g + "\n".
+Found checkLine(const char* name, const QString& prefix)
+{
+    return checkText(data(name), [prefix](const QByteArray& text) -> std::optional<qint64> {
+        if (!text.endsWith('\n'))
+            return std::nullopt;
+        return generationOf(QString::fromUtf8(text.chopped(1)), prefix);
+    });
+}
+
+Found checkWallpaper()
+{
+    return checkText(data("wallpaper/serverWallpaper.jpg"), [](const QByteArray& text) -> std::optional<qint64> {
+        const QByteArray head("\x89PNG\r\n\x1a\n");
+        if (!text.startsWith(head))
+            return std::nullopt;
+        return generationOf(QString::fromLatin1(text.mid(head.size())), QStringLiteral("gen-"));
+    });
+}
+
+// One screen timer of display.ini: an index 0-4.
+Found checkDisplayTimer(const QString& key)
+{
+    const QString path = data("display.ini");
+    if (!QFile::exists(path))
+        return {};
+    QSettings settings(path, QSettings::IniFormat);
+    if (!settings.contains(key))
+        return {};
+    bool ok = false;
+    const int index = settings.value(key).toInt(&ok);
+    if (settings.status() != QSettings::NoError || !ok || index < 0 || index > 4)
+        return corrupt(QStringLiteral("%1 is \"%2\"").arg(key, settings.value(key).toString()));
+    return {index, {}};
+}
+
+// networks.json: 1-4 entries named "net-<g>-<i>".
+void writeNetworkFlags(qint64 generation)
+{
+    QJsonArray networks;
+    for (int i = 0; i < recordCount(generation); ++i)
+        networks.append(QJsonObject{{QStringLiteral("ssid"), QStringLiteral("net-%1-%2").arg(generation).arg(i)},
+                                    {QStringLiteral("autoConnect"), i == 0},
+                                    {QStringLiteral("showForUser"), true}});
+    NetworkManager::writeNetworks(networks);
+}
+
+Found checkNetworkFlags()
 {
     bool exists = false;
-    const QByteArray text = readAll(data("networks.json"), &exists);
+    const QByteArray text = readAll(NetworkManager::networksFile(), &exists);
     if (!exists)
         return {};
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    if (error.error != QJsonParseError::NoError || !document.isArray())
-        return corrupt(QStringLiteral("not a JSON array (%1 bytes)").arg(text.size()));
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    if (!document.isArray() || document.array().isEmpty())
+        return corrupt(QStringLiteral("not a JSON array of networks (%1 bytes)").arg(text.size()));
     std::optional<qint64> generation;
-    for (const QJsonValue& entry : document.array()) {
-        const QJsonObject network = entry.toObject();
-        if (!network.value(QLatin1String("autoConnect")).toBool())
-            continue;
-        if (generation)
-            return corrupt(QStringLiteral("two networks connect by themselves"));
-        generation = generationOf(network.value(QLatin1String("ssid")).toString(), QStringLiteral("net-"));
-        if (!generation)
-            return corrupt(QStringLiteral("a network that is not ours connects by itself"));
+    const QJsonArray networks = document.array();
+    for (int i = 0; i < networks.size(); ++i) {
+        const QStringList parts = networks.at(i).toObject().value(QLatin1String("ssid")).toString().split(QLatin1Char('-'));
+        if (parts.size() != 3 || parts.at(0) != QLatin1String("net") || parts.at(2).toInt() != i
+            || (generation && *generation != parts.at(1).toLongLong()))
+            return corrupt(QStringLiteral("network %1 does not belong").arg(i));
+        generation = parts.at(1).toLongLong();
     }
-    return generation ? Found{generation, {}} : corrupt(QStringLiteral("no network connects by itself"));
+    if (networks.size() != recordCount(*generation))
+        return corrupt(QStringLiteral("%1 networks of generation %2").arg(networks.size()).arg(*generation));
+    return {generation, {}};
 }
 
-// Wallpapers: three pictures on a drive, taken in turn; each copy names its generation in a body
-// large enough for a kill to land inside the copy. display.ini names the copy in use.
+// A wallpaper the user picks: three pictures on a drive, taken in turn; each copy names its
+// generation in a body large enough for a kill to land inside the copy. display.ini names the
+// copy in use.
 constexpr int kPictureSize = 256 * 1024;
 
 QByteArray picture(qint64 generation)
@@ -220,7 +275,7 @@ QByteArray picture(qint64 generation)
     return content;
 }
 
-void writeWallpaper(qint64 generation)
+void writeWallpaperCopy(qint64 generation)
 {
     const QString source = SystemPaths::resolve(QStringLiteral("/media/POWERCUT-PICTURES/pic-%1.png").arg(generation % 3));
     QDir().mkpath(QFileInfo(source).absolutePath());
@@ -231,15 +286,15 @@ void writeWallpaper(qint64 generation)
     WallpapersManager().setWallpaper(source);
 }
 
-Found checkWallpaper()
+Found checkWallpaperCopies()
 {
     const QString ini = data("display.ini");
-    if (!QFile::exists(ini))
-        return {};
+    const QString chosen = QSettings(ini, QSettings::IniFormat).value(QStringLiteral("Wallpaper")).toString();
+    if (!chosen.contains(QLatin1String("/pic-")))
+        return {}; // no picture of ours chosen yet
     // Every copy on the terminal is a whole picture of one generation.
     std::optional<qint64> inUse;
-    const QString chosen = QSettings(ini, QSettings::IniFormat).value(QStringLiteral("Wallpaper")).toString();
-    for (const QFileInfo& copy : QDir(data("wallpaper")).entryInfoList(QDir::Files)) {
+    for (const QFileInfo& copy : QDir(data("wallpaper")).entryInfoList({QStringLiteral("pic-*.png")}, QDir::Files)) {
         bool exists = false;
         const QByteArray content = readAll(copy.filePath(), &exists);
         const QList<QByteArray> words = content.mid(8, 64).split(' ');
@@ -250,20 +305,6 @@ Found checkWallpaper()
             inUse = generation;
     }
     return inUse ? Found{inUse, {}} : corrupt(QStringLiteral("display.ini names \"%1\", which is not there").arg(chosen));
-}
-
-Found checkTimesyncd()
-{
-    const QString path = data("timesyncd.conf");
-    if (!QFile::exists(path))
-        return {};
-    const std::optional<qint64> generation =
-        generationOf(QSettings(path, QSettings::IniFormat).value(QStringLiteral("Time/NTP")).toString(), QStringLiteral("ntp"));
-    if (!generation)
-        return corrupt(QStringLiteral("no NTP server of ours"));
-    if (!QSettings(data("time.ini"), QSettings::IniFormat).contains(QStringLiteral("Is24")))
-        return corrupt(QStringLiteral("time.ini lost Is24"));
-    return {generation, {}};
 }
 
 const QList<Subject>& subjects()
@@ -289,19 +330,6 @@ const QList<Subject>& subjects()
                const std::optional<qint64> g = generationOf(PasswordManager().getPassword(), QStringLiteral("admin-"));
                return g ? Found{g, {}} : corrupt(QStringLiteral("does not decipher to a password of ours"));
            }}}},
-        {"networks", writeNetworks, {{"networks.json", checkNetworks}}},
-        {"wallpaper", writeWallpaper, {{"wallpaper", checkWallpaper}}},
-        {"time",
-         [](qint64 g) {
-             TimeBackend::getInstance()->setNtp(QStringLiteral("ntp%1").arg(g));
-             TimeBackend::getInstance()->applyWithTime();
-         },
-         {{"timesyncd.conf", checkTimesyncd}}},
-        {"keyboard", [](qint64 g) { MouseSettingsBackend::setPreferredLayoutRaw(QStringLiteral("k%1").arg(g)); },
-         {{"keyboard.ini", [] {
-               return checkIni(data("keyboard.ini"), QStringLiteral("PreferredLayout"), QStringLiteral("k"),
-                               {QStringLiteral("Sensetivity")});
-           }}}},
         // Each export makes a new set (or adds to this second's set); the check counts the sets.
         {"export",
          [](qint64) {
@@ -311,6 +339,31 @@ const QList<Subject>& subjects()
              manager.exportConfig(SystemPaths::resolve(QStringLiteral("/media/POWERCUT")));
          },
          {{"exported-sets", checkExports}}},
+        // The settings push: certificate files, the server's wallpaper, the screen timers.
+        {"push", [](qint64 g) { SettingsPush({}).apply(pushDocument(g)); },
+         {{"8021x/ca-cert", [] { return checkLine("8021x/ca-cert", QStringLiteral("ca-cert-")); }},
+          {"8021x/key", [] { return checkLine("8021x/key", QStringLiteral("key-")); }},
+          {"serverWallpaper.jpg", checkWallpaper}}},
+        // The screen timers name g in two parts: sleep g mod 5, turn-off g / 5 mod 5.
+        {"push-sleep", [](qint64 g) { SettingsPush({}).apply(pushTimerDocument(QStringLiteral("Sleep"), int(g % 5))); },
+         {{"display.ini", [] { return checkDisplayTimer(QStringLiteral("SleepTime")); }}}},
+        {"push-turnoff", [](qint64 g) { SettingsPush({}).apply(pushTimerDocument(QStringLiteral("TurnOff"), int(g / 5 % 5))); },
+         {{"display.ini", [] { return checkDisplayTimer(QStringLiteral("TurnOffTime")); }}}},
+        {"ntp", [](qint64 g) {
+             TimeBackend time;
+             time.setNtp(QStringLiteral("ntp-%1").arg(g));
+             time.applyWithTime();
+         },
+         {{"timesyncd.conf", [] {
+               return checkIni(data("timesyncd.conf"), QStringLiteral("Time/NTP"), QStringLiteral("ntp-"), {});
+           }}}},
+        {"networks", writeNetworkFlags, {{"networks.json", checkNetworkFlags}}},
+        {"wallpaper", writeWallpaperCopy, {{"wallpaper/pic-*.png", checkWallpaperCopies}}},
+        {"keyboard", [](qint64 g) { MouseSettingsBackend::setPreferredLayoutRaw(QStringLiteral("k%1").arg(g)); },
+         {{"keyboard.ini", [] {
+               return checkIni(data("keyboard.ini"), QStringLiteral("PreferredLayout"), QStringLiteral("k"),
+                               {QStringLiteral("Sensetivity")});
+           }}}},
     };
     return list;
 }
