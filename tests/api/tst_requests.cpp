@@ -169,7 +169,7 @@ private slots:
         QFETCH(QStringList, command);
         api()->handleRequest(QStringLiteral(R"({"action":"%1","id":1})").arg(action));
         QCOMPARE(m_agent.frames.size(), 1);
-        QCOMPARE(m_runner.commandLines(), QList<QStringList>{command});
+        QCOMPARE(m_runner.commandLinesOfThisThread(), QList<QStringList>{command});
         QVERIFY(m_runner.calls.first().detached);
     }
 
@@ -406,7 +406,7 @@ private slots:
         api()->setId("front-desk-2");
         QCOMPARE(TestSandbox::readFile(m_sandbox->dataFile("hosts")), APIManager::hostsFileContent("front-desk-2"));
         QCOMPARE(TestSandbox::readFile(m_sandbox->dataFile("hostname")), QByteArray("front-desk-2"));
-        QCOMPARE(m_runner.commandLines(), (QList<QStringList>{{"sudo", "hostname", "front-desk-2"},
+        QCOMPARE(m_runner.commandLinesOfThisThread(), (QList<QStringList>{{"sudo", "hostname", "front-desk-2"},
                                                               {"sudo", "cp", "-f", "/data/norbix/hosts", "/etc/hosts"},
                                                               {"sudo", "cp", "-f", "/data/norbix/hostname", "/etc/hostname"}}));
         QCOMPARE(api()->getId(), QStringLiteral("front-desk-2"));
@@ -416,7 +416,7 @@ private slots:
     {
         api()->setId(QString());
         QCOMPARE(QSettings(m_sandbox->dataFile("api.ini"), QSettings::IniFormat).value("Id").toString(), QStringLiteral("norbix-4A7B12"));
-        QCOMPARE(m_runner.commandLines().first(), (QStringList{"nmcli", "device", "show"}));
+        QCOMPARE(m_runner.commandLinesOfThisThread().first(), (QStringList{"nmcli", "device", "show"}));
     }
 
     void setIdRefusesWhatIsNotAHostName_data()
@@ -439,7 +439,7 @@ private slots:
         api()->setId("front-desk-2");
         m_runner.calls.clear();
         api()->setId(name);
-        QVERIFY(m_runner.commandLines().isEmpty());
+        QVERIFY(m_runner.commandLinesOfThisThread().isEmpty());
         QCOMPARE(TestSandbox::readFile(m_sandbox->dataFile("hostname")), QByteArray("front-desk-2"));
         QCOMPARE(api()->getId(), QStringLiteral("front-desk-2"));
     }
@@ -454,7 +454,7 @@ private slots:
     void vncPasswordCommands()
     {
         api()->setVNCPassword("pa ss");
-        QCOMPARE(m_runner.commandLines(), (QList<QStringList>{{"sudo", "x11vnc", "-storepasswd", "pa ss", "/etc/x11vnc.pass"},
+        QCOMPARE(m_runner.commandLinesOfThisThread(), (QList<QStringList>{{"sudo", "x11vnc", "-storepasswd", "pa ss", "/etc/x11vnc.pass"},
                                                               {"sudo", "systemctl", "daemon-reload"},
                                                               {"sudo", "systemctl", "restart", "x11vnc"}}));
         QVERIFY(!m_runner.calls.first().detached);

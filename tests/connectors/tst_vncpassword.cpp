@@ -1,6 +1,7 @@
 // Which prompt a record without credentials gets, and what the VNC prompt starts.
 #include "ConnectionManager.h"
 #include "ConnectionStore.h"
+#include "ConnectorLaunchers.h"
 #include "FakeCommandRunner.h"
 #include "TestSandbox.h"
 #include "VNCPasswordBackend.h"
@@ -24,6 +25,8 @@ class tst_VncPassword : public QObject {
     }
 
 private slots:
+    void initTestCase() { ConnectorLaunchers::install(); }
+
     void needsPrompt_data()
     {
         QTest::addColumn<int>("type");

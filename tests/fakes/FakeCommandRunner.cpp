@@ -89,7 +89,7 @@ CommandResult FakeCommandRunner::lookup(const QString& program, const QStringLis
 CommandResult FakeCommandRunner::record(const QString& program, const QStringList& arguments, bool detached)
 {
     QMutexLocker locker(&m_mutex);
-    calls.append({program, arguments, detached});
+    calls.append({program, arguments, detached, QThread::currentThread()});
     return lookup(program, arguments);
 }
 
@@ -122,5 +122,14 @@ QList<QStringList> FakeCommandRunner::commandLines() const
     QList<QStringList> lines;
     for (const Call& call : calls)
         lines << call.commandLine();
+    return lines;
+}
+
+QList<QStringList> FakeCommandRunner::commandLinesOfThisThread() const
+{
+    QList<QStringList> lines;
+    for (const Call& call : calls)
+        if (call.thread == QThread::currentThread())
+            lines << call.commandLine();
     return lines;
 }

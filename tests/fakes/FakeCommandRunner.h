@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QList>
 #include <QMutex>
+#include <QThread>
 
 // Records every command and answers from canned results; installs itself as the process-wide
 // runner for its lifetime.
@@ -14,6 +15,7 @@ public:
         QString program;
         QStringList arguments;
         bool detached = false;
+        QThread* thread = nullptr; // the thread that ran it
         QStringList commandLine() const { return QStringList(program) + arguments; }
     };
 
@@ -27,6 +29,9 @@ public:
     // Ends every started process that is still running, emitting finished().
     void finishAll();
     QList<QStringList> commandLines() const;
+    // Only those run on the calling thread: what a test did itself, without the commands of
+    // background workers (the settings collector, session threads) that may run meanwhile.
+    QList<QStringList> commandLinesOfThisThread() const;
 
     QList<Call> calls;
     QList<RunningProcess*> running;

@@ -261,8 +261,7 @@ Found checkNetworkFlags()
 }
 
 // A wallpaper the user picks: three pictures on a drive, taken in turn; each copy names its
-// generation in a body large enough for a kill to land inside the copy. display.ini names the
-// copy in use.
+// generation in a body large enough for a kill to land inside the copy.
 constexpr int kPictureSize = 256 * 1024;
 
 QByteArray picture(qint64 generation)
@@ -288,12 +287,9 @@ void writeWallpaperCopy(qint64 generation)
 
 Found checkWallpaperCopies()
 {
-    const QString ini = data("display.ini");
-    const QString chosen = QSettings(ini, QSettings::IniFormat).value(QStringLiteral("Wallpaper")).toString();
-    if (!chosen.contains(QLatin1String("/pic-")))
-        return {}; // no picture of ours chosen yet
-    // Every copy on the terminal is a whole picture of one generation.
-    std::optional<qint64> inUse;
+    // Every copy on the terminal is a whole picture of one generation; the newest is the last one
+    // copied (display.ini's Wallpaper is shared with the server's wallpaper, so it is not asked).
+    std::optional<qint64> newest;
     for (const QFileInfo& copy : QDir(data("wallpaper")).entryInfoList({QStringLiteral("pic-*.png")}, QDir::Files)) {
         bool exists = false;
         const QByteArray content = readAll(copy.filePath(), &exists);
@@ -301,10 +297,9 @@ Found checkWallpaperCopies()
         const qint64 generation = words.size() > 1 ? words.at(1).toLongLong() : -1;
         if (content != picture(generation))
             return corrupt(copy.fileName() + QStringLiteral(" is not a whole picture (%1 bytes)").arg(content.size()));
-        if (chosen.endsWith(QLatin1Char('/') + copy.fileName()))
-            inUse = generation;
+        newest = std::max(newest.value_or(generation), generation);
     }
-    return inUse ? Found{inUse, {}} : corrupt(QStringLiteral("display.ini names \"%1\", which is not there").arg(chosen));
+    return newest ? Found{newest, {}} : Found{};
 }
 
 const QList<Subject>& subjects()
