@@ -19,6 +19,8 @@
  *                           displays, power, datetime, sound, keyboard, mouse, language, wallpaper,
  *                           printers, usb-storage, certificates, password, management, updates,
  *                           export, import, logs, system-info
+ *   wizard, wizard/<step>   the first-run wizard, at its first step or at one of: language,
+ *                           keyboard, network, time, management
  * Unknown names log a warning and show the home screen.
  */
 import QtQuick 2.15
@@ -27,6 +29,7 @@ import NorbixUi 1.0
 import com.APIManager 1.0
 import com.ConnectionManager 1.0
 import com.RDPConnector 1.0
+import com.WizardBackend 1.0
 
 ApplicationWindow {
     id: window
@@ -76,6 +79,12 @@ ApplicationWindow {
         formDialog.openForm(form, index);
     }
 
+    function showWizard() {
+        wizardBackend.start();
+        if (!wizardBackend.done)
+            currentView = "wizard";
+    }
+
     function showError(text) {
         errorDialog.message = text;
         if (!errorDialog.opened)
@@ -116,6 +125,12 @@ ApplicationWindow {
             mainView.helpAnswered = true;
             return;
         }
+        if (page === "wizard" || page.indexOf("wizard/") === 0) {
+            showWizard();
+            if (page !== "wizard" && !wizardBackend.goTo(page.substring("wizard/".length)))
+                console.warn("openPage: no wizard step", page);
+            return;
+        }
         if (page === "settings") {
             showSettings("");
             return;
@@ -149,6 +164,29 @@ ApplicationWindow {
 
     ConnectionKinds {
         id: kinds
+    }
+
+    // A new terminal starts in the first-run wizard until it is finished.
+    Component.onCompleted: {
+        if (wizardBackend.isNeeded())
+            showWizard();
+    }
+
+    WizardBackend {
+        id: wizardBackend
+    }
+
+    Loader {
+        id: wizardLoader
+        anchors.fill: parent
+        z: 1
+        active: window.currentView === "wizard"
+        focus: active
+        sourceComponent: WizardView {
+            wizard: wizardBackend
+            focus: true
+            onFinished: window.showHome()
+        }
     }
 
     MainView {

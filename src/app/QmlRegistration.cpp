@@ -31,6 +31,7 @@
 #include "VNCConnectDialogBackend.h"
 #include "VNCConnector.h"
 #include "WallpapersManager.h"
+#include "WizardBackend.h"
 
 #include <QtQml>
 
@@ -69,6 +70,7 @@ void registerQmlTypes()
     qmlRegisterType<NetworkManager>("com.NetworkManager", 1, 0, "NetworkManager");
     qmlRegisterType<PingManager>("com.PingManager", 1, 0, "PingManager");
     qmlRegisterType<RemoteAssistanceBackend>("com.RemoteAssistanceBackend", 1, 0, "RemoteAssistanceBackend");
+    qmlRegisterType<WizardBackend>("com.WizardBackend", 1, 0, "WizardBackend");
 }
 
 void ContextObjects::publish(QQmlContext* context)

@@ -155,6 +155,15 @@ void WizardBackend::back()
         moveTo(m_index - 1);
 }
 
+bool WizardBackend::goTo(const QString& step)
+{
+    const int index = m_steps.indexOf(step);
+    if (m_done || index < 0)
+        return false;
+    moveTo(index);
+    return true;
+}
+
 void WizardBackend::finish()
 {
     if (m_done)

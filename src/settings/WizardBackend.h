@@ -45,6 +45,8 @@ public:
     // Leave the current step as it is; move on.
     Q_INVOKABLE void skip();
     Q_INVOKABLE void back();
+    // Jumps to a step of the course (previews); false when the step is not part of it.
+    Q_INVOKABLE bool goTo(const QString& step);
     // Writes wizard_lock and forgets the progress; the wizard never comes back.
     Q_INVOKABLE void finish();
 

@@ -115,6 +115,8 @@ private slots:
         QTest::newRow("back and forth") << QStringList{"next", "skip", "back", "back", "next", "next", "next"}
                                         << QStringList{"keyboard", "network", "keyboard", "language", "keyboard",
                                                        "network", "time"};
+        QTest::newRow("jump, then back") << QStringList{"goto:time", "back", "goto:printers", "next"}
+                                         << QStringList{"time", "network", "network", "time"};
         QTest::newRow("finish early") << QStringList{"next", "finish", "next", "back"}
                                       << QStringList{"keyboard", "done", "done", "done"};
     }
@@ -135,6 +137,8 @@ private slots:
                 wizard.skip();
             else if (action == QLatin1String("back"))
                 wizard.back();
+            else if (action.startsWith(QLatin1String("goto:")))
+                QCOMPARE(wizard.goTo(action.mid(5)), wizard.steps().contains(action.mid(5)));
             else
                 wizard.finish();
             const QString expected = shown.at(i);
