@@ -84,7 +84,7 @@ QtObject {
             sections: [
                 { id: "logs", title: qsTr("Logs"), icon: "document", admin: true, page: "LogsPage.qml",
                   description: qsTr("Diagnostic messages of this session and export for support.") },
-                { id: "system-info", title: qsTr("System information"), icon: "info", admin: false, page: "",
+                { id: "system-info", title: qsTr("System information"), icon: "info", admin: false, page: "SystemInfoPage.qml",
                   description: qsTr("Hardware, software version and network details.") }
             ]
         }

@@ -7,6 +7,7 @@
 #include "CitrixConnector.h"
 #include "ConnectionManager.h"
 #include "DisplayRevertGuard.h"
+#include "InfoBackend.h"
 #include "LanguageBackend.h"
 #include "LocalUpdaterBackend.h"
 #include "LogManager.h"
@@ -51,6 +52,7 @@ void registerQmlTypes()
     qmlRegisterType<PrintersBackend>("com.PrintersBackend", 1, 0, "PrintersBackend");
     qmlRegisterType<TeamsConnector>("com.TeamsConnector", 1, 0, "TeamsConnector");
     qmlRegisterType<CertificatesStorage>("com.CertificatesStorage", 1, 0, "CertificatesStorage");
+    qmlRegisterType<InfoBackend>("com.InfoBackend", 1, 0, "InfoBackend");
     qmlRegisterType<LogManager>("com.LogManager", 1, 0, "LogManager");
     qmlRegisterType<LocalUpdaterBackend>("com.LocalUpdaterBackend", 1, 0, "LocalUpdaterBackend");
     qmlRegisterType<USBManager>("com.USBManager", 1, 0, "USBManager");
@@ -79,6 +81,9 @@ void ContextObjects::publish(QQmlContext* context)
     context->setContextProperty(QStringLiteral("connectionTableModel"), &connectionTableModel);
     qDebug() << "prepare connectionsModel";
     context->setContextProperty(QStringLiteral("connectionsModel"), &connectionsModel);
+    qDebug() << "prepare systemInfoModel";
+    systemInfoModel.asyncRead();
+    context->setContextProperty(QStringLiteral("systemInfoModel"), &systemInfoModel);
     qDebug() << "prepare keyboardLayoutModel";
     context->setContextProperty(QStringLiteral("keyboadLayoutModel"), &keyboardLayoutModel);
     qDebug() << "prepare wifiAvailableModel";
