@@ -27,6 +27,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import NorbixUi 1.0
 import com.APIManager 1.0
+import com.AccessibilityBackend 1.0
 import com.ConnectionManager 1.0
 import com.RDPConnector 1.0
 import com.WizardBackend 1.0
@@ -164,6 +165,28 @@ ApplicationWindow {
 
     ConnectionKinds {
         id: kinds
+    }
+
+    Binding {
+        target: Theme
+        property: "highContrast"
+        value: AccessibilityBackend.highContrast
+    }
+
+    // The screens end where the on-screen keyboard begins, so it never covers the field in use.
+    footer: Item {
+        implicitHeight: keyboardLoader.item && keyboardLoader.item.shown ? keyboardLoader.item.height : 0
+    }
+
+    Loader {
+        id: keyboardLoader
+        // Above dialogs too: their fields need the keyboard as much as the pages' do.
+        parent: Overlay.overlay
+        z: 10000
+        width: window.width
+        y: window.height - (item && item.shown ? item.height : 0)
+        active: AccessibilityBackend.onScreenKeyboard
+        source: "OnScreenKeyboard.qml"
     }
 
     // A new terminal starts in the first-run wizard until it is finished.

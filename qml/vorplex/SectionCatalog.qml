@@ -42,7 +42,9 @@ QtObject {
                 { id: "language", title: qsTr("Language"), icon: "globe", admin: false, page: "LanguagePage.qml",
                   description: qsTr("Display language and regional formats.") },
                 { id: "wallpaper", title: qsTr("Wallpaper"), icon: "image", admin: false, page: "WallpaperPage.qml",
-                  description: qsTr("Background image of the home screen.") }
+                  description: qsTr("Background image of the home screen.") },
+                { id: "accessibility", title: qsTr("Accessibility"), icon: "eye", admin: false, page: "AccessibilityPage.qml",
+                  description: qsTr("On-screen keyboard and high contrast.") }
             ]
         },
         {

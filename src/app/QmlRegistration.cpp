@@ -1,6 +1,7 @@
 #include "QmlRegistration.h"
 
 #include "APIManager.h"
+#include "AccessibilityBackend.h"
 #include "BrowserConnectDialogBackend.h"
 #include "CitrixConnectDialogBackend.h"
 #include "CertificatesStorage.h"
@@ -73,6 +74,7 @@ void registerQmlTypes()
     qmlRegisterType<PingManager>("com.PingManager", 1, 0, "PingManager");
     qmlRegisterType<RemoteAssistanceBackend>("com.RemoteAssistanceBackend", 1, 0, "RemoteAssistanceBackend");
     qmlRegisterType<WizardBackend>("com.WizardBackend", 1, 0, "WizardBackend");
+    qmlRegisterSingletonType<AccessibilityBackend>("com.AccessibilityBackend", 1, 0, "AccessibilityBackend", &AccessibilityBackend::qmlInstance);
 }
 
 void ContextObjects::publish(QQmlContext* context)
