@@ -185,7 +185,7 @@ ApplicationWindow {
         z: 10000
         width: window.width
         y: window.height - (item && item.shown ? item.height : 0)
-        active: AccessibilityBackend.onScreenKeyboard
+        active: AccessibilityBackend.onScreenKeyboard && AccessibilityBackend.inputMethodReady
         source: "OnScreenKeyboard.qml"
     }
 

@@ -71,6 +71,9 @@ FocusScope {
     }
 
     Keys.onEscapePressed: root.goBack()
+    // Enter moves on unless the focused control used it.
+    Keys.onReturnPressed: root.goNext()
+    Keys.onEnterPressed: root.goNext()
 
     Rectangle {
         anchors.fill: parent

@@ -43,6 +43,11 @@ void AccessibilityBackend::prepareInputMethod()
     qputenv("QT_IM_MODULE", QByteArrayLiteral("qtvirtualkeyboard"));
 }
 
+bool AccessibilityBackend::inputMethodReady()
+{
+    return qgetenv("QT_IM_MODULE") == "qtvirtualkeyboard";
+}
+
 QString AccessibilityBackend::localeForLanguage(const QString& languageCode)
 {
     if (languageCode == QLatin1String("fr"))

@@ -15,6 +15,8 @@ class AccessibilityBackend : public QObject {
     Q_PROPERTY(bool highContrast READ highContrast WRITE setHighContrast NOTIFY highContrastChanged)
     // The on-screen keyboard's layout, following the display language.
     Q_PROPERTY(QString keyboardLocale READ keyboardLocale NOTIFY keyboardLocaleChanged)
+    // The virtual keyboard is the input method of this process (it can only show then).
+    Q_PROPERTY(bool inputMethodReady READ inputMethodReady CONSTANT)
 public:
     explicit AccessibilityBackend(QObject* parent = nullptr);
 
@@ -27,6 +29,7 @@ public:
 
     // The keyboard layout for a display language code ("fr" -> "fr_FR"); English for the rest.
     static QString localeForLanguage(const QString& languageCode);
+    static bool inputMethodReady();
     QString keyboardLocale() const;
 
     bool onScreenKeyboard() const;

@@ -83,9 +83,11 @@ private slots:
         qputenv("QT_IM_MODULE", "ibus");
         AccessibilityBackend::prepareInputMethod();
         QCOMPARE(qgetenv("QT_IM_MODULE"), QByteArray("ibus"));
+        QVERIFY(!AccessibilityBackend::inputMethodReady());
         qunsetenv("QT_IM_MODULE");
         AccessibilityBackend::prepareInputMethod();
         QCOMPARE(qgetenv("QT_IM_MODULE"), QByteArray("qtvirtualkeyboard"));
+        QVERIFY(AccessibilityBackend::inputMethodReady());
         if (saved.isNull())
             qunsetenv("QT_IM_MODULE");
         else

@@ -82,6 +82,11 @@ Popup {
         id: layout
         spacing: 0
 
+        // Enter confirms from anywhere in the dialog that does not take the key itself (a focused
+        // button does first); Escape cancels through the close policy.
+        Keys.onReturnPressed: dialog.ok()
+        Keys.onEnterPressed: dialog.ok()
+
         // A plain Column: wrapped text inside a nested layout keeps a stale height when the
         // text changes while the dialog is closed.
         Column {
