@@ -36,9 +36,18 @@ ApplicationWindow {
     id: window
 
     property string currentView: "main"
+    // The settings area is built the first time it is shown, not at start.
+    property bool settingsLoaded: false
+    readonly property var settingsView: settingsLoader.item
+
+    onCurrentViewChanged: {
+        if (currentView === "settings")
+            settingsLoaded = true;
+    }
 
     function showHome() {
-        settingsView.lock();
+        if (settingsView)
+            settingsView.lock();
         mainView.helpAvailable = APIManager.isEnabled();
         currentView = "main";
     }
@@ -146,10 +155,13 @@ ApplicationWindow {
             section = page;
         else if (page.indexOf("settings/") === 0)
             section = page.substring("settings/".length);
-        if (section !== "" && settingsView.hasSection(section)) {
+        if (section !== "") {
             currentView = "settings";
-            settingsView.openUnlocked(section);
-            return;
+            if (settingsView.hasSection(section)) {
+                settingsView.openUnlocked(section);
+                return;
+            }
+            currentView = "main";
         }
         console.warn("openPage: unknown page", page);
     }
@@ -239,11 +251,16 @@ ApplicationWindow {
         onConnectionSettingsRequested: window.showSettings("connections")
     }
 
-    SettingsView {
-        id: settingsView
+    Loader {
+        id: settingsLoader
         anchors.fill: parent
+        active: window.settingsLoaded
         visible: window.currentView === "settings"
-        onHomeRequested: window.showHome()
+        sourceComponent: Component {
+            SettingsView {
+                onHomeRequested: window.showHome()
+            }
+        }
     }
 
     Connections {
