@@ -96,7 +96,7 @@ QList<SystemInfoModel::Fact> SystemInfoModel::collect()
     }
 
     facts << fact(kSoftware, QStringLiteral("shell"), {}, QStringLiteral("1.2.16"));
-    facts << fact(kSoftware, QStringLiteral("kernel"), {}, kernelRelease(run(QStringLiteral("uname"), {QStringLiteral("-r")}).standardOutput));
+    facts << fact(kSoftware, QStringLiteral("kernel"), {}, kernelRelease(run(QStringLiteral("cat"), {QStringLiteral("/proc/sys/kernel/osrelease")}).standardOutput));
     facts << fact(kSoftware, QStringLiteral("os"), {}, osRelease(run(QStringLiteral("cat"), {QStringLiteral("/etc/os-release")}).standardOutput));
 
     QStringList query{QStringLiteral("-W"), QStringLiteral("-f=${Package}\\t${db:Status-Abbrev}\\t${Version}\\n")};

@@ -27,7 +27,7 @@ public:
     explicit SystemInfoModel(QObject* parent = nullptr);
     ~SystemInfoModel() override;
 
-    // Runs the tools (lscpu, df, ip, xrandr, uname, dpkg-query...) through the command seam.
+    // Runs the tools (lscpu, df, ip, xrandr, dpkg-query...) through the command seam.
     // Blocking: asyncRead() calls it on a worker thread.
     static QList<Fact> collect();
 

@@ -40,7 +40,7 @@ QString osRelease(const QByteArray& osRelease);
 // `dpkg-query -W -f='${Package}\t${db:Status-Abbrev}\t${Version}\n' ...`: package -> version of
 // the installed packages only (a package removed but not purged is not installed).
 QHash<QString, QString> installedPackages(const QByteArray& dpkgQuery);
-// `uname -r`: the release, trimmed.
+// /proc/sys/kernel/osrelease (what `uname -r` prints): the release, trimmed.
 QString kernelRelease(const QByteArray& uname);
 
 // The session clients the page names, each with the Debian packages that may provide it.

@@ -32,7 +32,7 @@ void answerTerminal(FakeCommandRunner& runner, const QByteArray& dpkg, const QBy
     runner.answer(QStringLiteral("df -P -B1 -x tmpfs -x devtmpfs -x squashfs -x overlay"), df);
     runner.answer(QStringLiteral("ip -j addr show"), ip);
     runner.answer(QStringLiteral("xrandr --query"), fixture(QStringLiteral("xrandr-query.txt")));
-    runner.answer(QStringLiteral("uname -r"), "6.1.0-27-amd64\n");
+    runner.answer(QStringLiteral("cat /proc/sys/kernel/osrelease"), "6.1.0-27-amd64\n");
     runner.answer(QStringLiteral("cat /etc/os-release"), fixture(QStringLiteral("os-release.txt")));
     runner.answer((QStringList{QStringLiteral("dpkg-query"), QStringLiteral("-W"), kDpkgFormat} + clientPackages()).join(QLatin1Char(' ')), dpkg);
 }
