@@ -187,7 +187,7 @@ ApplicationWindow {
 
     // The screens end where the on-screen keyboard begins, so it never covers the field in use.
     footer: Item {
-        implicitHeight: keyboardLoader.item && keyboardLoader.item.shown ? keyboardLoader.item.height : 0
+        implicitHeight: keyboardLoader.item ? keyboardLoader.item.keyboardHeight : 0
     }
 
     Loader {
@@ -195,8 +195,7 @@ ApplicationWindow {
         // Above dialogs too: their fields need the keyboard as much as the pages' do.
         parent: Overlay.overlay
         z: 10000
-        width: window.width
-        y: window.height - (item && item.shown ? item.height : 0)
+        anchors.fill: parent
         active: AccessibilityBackend.onScreenKeyboard && AccessibilityBackend.inputMethodReady
         source: "OnScreenKeyboard.qml"
     }
