@@ -17,6 +17,7 @@ NORBIX_PACKAGES=(
     network-manager python3-dbusmock iputils-ping iw
     x11-xkb-utils xkb-data xinput openbox feh libx11-dev usbutils
     pulseaudio pulseaudio-utils alsa-utils libasound2-plugins cups cups-daemon cups-client cups-ipp-utils dbus
+    qml-module-qtquick-virtualkeyboard qtvirtualkeyboard-plugin qml-module-qt-labs-folderlistmodel
 )
 
 # The peers and tools scripts/bench compares the VNC viewer with.

@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>AccessibilityPage</name>
+    <message>
+        <location filename="../qml/vorplex/AccessibilityPage.qml" line="+12"/>
+        <source>Touch and reading</source>
+        <translation>Touch und Lesbarkeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Both take effect at once.</source>
+        <translation>Beide Einstellungen wirken sofort.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>On-screen keyboard</source>
+        <translation>Bildschirmtastatur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A keyboard appears on the screen whenever a text field is chosen. Its layout follows the display language.</source>
+        <translation>Sobald ein Textfeld gewählt wird, erscheint eine Tastatur auf dem Bildschirm. Ihr Layout folgt der Anzeigesprache.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Black text on white, strong outlines and a clearly marked focus.</source>
+        <translation>Schwarzer Text auf Weiß, kräftige Umrisse und deutlich markierter Fokus.</translation>
+    </message>
+</context>
+<context>
     <name>AddBrowserConnection</name>
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="+26"/>
@@ -2409,24 +2442,24 @@
 <context>
     <name>Main</name>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="+64"/>
+        <location filename="../qml/vorplex/Main.qml" line="+77"/>
         <source>This terminal has no network connection. Check the network cable or the Wi-Fi, then try again.</source>
         <translation>Dieses Terminal hat keine Netzwerkverbindung. Prüfen Sie das Netzwerkkabel oder das WLAN und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <location line="+9"/>
-        <location line="+169"/>
+        <location line="+233"/>
         <location line="+34"/>
         <source>Failed to connect</source>
         <translation>Verbindung fehlgeschlagen</translation>
     </message>
     <message>
-        <location line="-193"/>
+        <location line="-257"/>
         <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
         <translation>Diese Verbindung ist unvollständig und kann nicht gestartet werden. Ein Administrator kann sie unter Einstellungen → Verbindungen vervollständigen.</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+40"/>
         <source>Connecting to the Citrix store…</source>
         <translation>Verbindung zum Citrix-Store wird hergestellt…</translation>
     </message>
@@ -2441,12 +2474,12 @@
         <translation>Alex vom IT-Support möchte Ihren Bildschirm sehen, um Ihnen bei Ihrem Ticket zu helfen.</translation>
     </message>
     <message>
-        <location line="+75"/>
+        <location line="+128"/>
         <source>Your request for help has been sent.</source>
         <translation>Ihre Bitte um Hilfe wurde gesendet.</translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+56"/>
         <source>“%1” added.</source>
         <translation>„%1“ hinzugefügt.</translation>
     </message>
@@ -3371,6 +3404,16 @@
         <translation>Hintergrundbild des Startbildschirms.</translation>
     </message>
     <message>
+        <location line="+1"/>
+        <source>Accessibility</source>
+        <translation>Barrierefreiheit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>On-screen keyboard and high contrast.</source>
+        <translation>Bildschirmtastatur und hoher Kontrast.</translation>
+    </message>
+    <message>
         <location line="+4"/>
         <source>Devices</source>
         <translation>Geräte</translation>
@@ -3669,6 +3712,169 @@
         <location line="+6"/>
         <source>Speak after pressing: three seconds are recorded and played back.</source>
         <translation>Sprechen Sie nach dem Drücken: Drei Sekunden werden aufgenommen und wiedergegeben.</translation>
+    </message>
+</context>
+<context>
+    <name>SystemInfoModel</name>
+    <message>
+        <location filename="../src/settings/SystemInfoModel.cpp" line="+150"/>
+        <source>Processor</source>
+        <translation>Prozessor</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Memory</source>
+        <translation>Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Disks</source>
+        <translation>Laufwerke</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Disk %1</source>
+        <translation>Laufwerk %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Network adapters</source>
+        <translation>Netzwerkadapter</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Network adapter %1</source>
+        <translation>Netzwerkadapter %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Displays</source>
+        <translation>Bildschirme</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Display %1</source>
+        <translation>Bildschirm %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Shell version</source>
+        <translation>Shell-Version</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Kernel</source>
+        <translation>Kernel</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Operating system</source>
+        <translation>Betriebssystem</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>not installed</source>
+        <translation>nicht installiert</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1: %2, %3 free</source>
+        <translation>%1: %2, %3 frei</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>system information</source>
+        <translation>Systeminformationen</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <location line="+19"/>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <location line="-19"/>
+        <location line="+19"/>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+</context>
+<context>
+    <name>SystemInfoPage</name>
+    <message>
+        <location filename="../qml/vorplex/SystemInfoPage.qml" line="+27"/>
+        <source>The system information is on the clipboard.</source>
+        <translation>Die Systeminformationen sind in der Zwischenablage.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Saved as %1.</source>
+        <translation>Gespeichert als %1.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>The file could not be written to the drive.</source>
+        <translation>Die Datei konnte nicht auf das Laufwerk geschrieben werden.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Reading system information…</source>
+        <translation>Systeminformationen werden gelesen…</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>Send to support</source>
+        <translation>An den Support senden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copy these facts, or save them as a text file on a USB drive.</source>
+        <translation>Diese Angaben kopieren oder als Textdatei auf einem USB-Laufwerk speichern.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Copy to clipboard</source>
+        <translation>In die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Drive</source>
+        <translation>Laufwerk</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>No removable drive found</source>
+        <translation>Kein Wechseldatenträger gefunden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive, then refresh the list.</source>
+        <translation>Stecken Sie ein USB-Laufwerk ein und aktualisieren Sie dann die Liste.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh drive list</source>
+        <translation>Laufwerksliste aktualisieren</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Save to drive</source>
+        <translation>Auf Laufwerk speichern</translation>
     </message>
 </context>
 <context>
@@ -4526,6 +4732,147 @@
         <location line="+6"/>
         <source>Apply</source>
         <translation>Übernehmen</translation>
+    </message>
+</context>
+<context>
+    <name>WizardNetworkPage</name>
+    <message>
+        <location filename="../qml/vorplex/WizardNetworkPage.qml" line="+26"/>
+        <source>Wired network</source>
+        <translation>Kabelnetzwerk</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A network cable brings this terminal online without further settings.</source>
+        <translation>Mit einem Netzwerkkabel ist dieses Terminal ohne weitere Einstellungen online.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Not connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Address %1</source>
+        <translation>Adresse %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Plug in a network cable, or join a Wi-Fi network below.</source>
+        <translation>Schließen Sie ein Netzwerkkabel an oder verbinden Sie sich unten mit einem WLAN.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Join a wireless network when there is no cable.</source>
+        <translation>Ohne Kabel mit einem Drahtlosnetzwerk verbinden.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Choose a Wi-Fi network…</source>
+        <translation>WLAN auswählen…</translation>
+    </message>
+</context>
+<context>
+    <name>WizardView</name>
+    <message>
+        <location filename="../qml/vorplex/WizardView.qml" line="+18"/>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Choose the language of this terminal&apos;s screens.</source>
+        <translation>Wählen Sie die Sprache der Bildschirme dieses Terminals.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Choose the keyboard layouts you type with.</source>
+        <translation>Wählen Sie die Tastaturlayouts, mit denen Sie schreiben.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Bring this terminal online.</source>
+        <translation>Bringen Sie dieses Terminal online.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date &amp; time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Set the time zone and the clock.</source>
+        <translation>Stellen Sie Zeitzone und Uhrzeit ein.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Management server</source>
+        <translation>Verwaltungsserver</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Optional: let a management server look after this terminal.</source>
+        <translation>Optional: Dieses Terminal von einem Verwaltungsserver betreuen lassen.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <location line="+64"/>
+        <source>Welcome to your terminal</source>
+        <translation>Willkommen an Ihrem Terminal</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Step %1 of %2</source>
+        <translation>Schritt %1 von %2</translation>
+    </message>
+    <message>
+        <location line="+53"/>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Finish</source>
+        <translation>Fertigstellen</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Next</source>
+        <translation>Weiter</translation>
     </message>
 </context>
 </TS>

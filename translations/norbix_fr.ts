@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>AccessibilityPage</name>
+    <message>
+        <location filename="../qml/vorplex/AccessibilityPage.qml" line="+12"/>
+        <source>Touch and reading</source>
+        <translation>Tactile et lisibilité</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Both take effect at once.</source>
+        <translation>Les deux réglages s&apos;appliquent immédiatement.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>On-screen keyboard</source>
+        <translation>Clavier virtuel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A keyboard appears on the screen whenever a text field is chosen. Its layout follows the display language.</source>
+        <translation>Un clavier s&apos;affiche à l&apos;écran dès qu&apos;un champ de texte est sélectionné. Sa disposition suit la langue d&apos;affichage.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>High contrast</source>
+        <translation>Contraste élevé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Black text on white, strong outlines and a clearly marked focus.</source>
+        <translation>Texte noir sur blanc, contours marqués et focus bien visible.</translation>
+    </message>
+</context>
+<context>
     <name>AddBrowserConnection</name>
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="+26"/>
@@ -2409,24 +2442,24 @@
 <context>
     <name>Main</name>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="+64"/>
+        <location filename="../qml/vorplex/Main.qml" line="+77"/>
         <source>This terminal has no network connection. Check the network cable or the Wi-Fi, then try again.</source>
         <translation>Ce terminal n&apos;a pas de connexion réseau. Vérifiez le câble réseau ou le Wi-Fi, puis réessayez.</translation>
     </message>
     <message>
         <location line="+9"/>
-        <location line="+169"/>
+        <location line="+233"/>
         <location line="+34"/>
         <source>Failed to connect</source>
         <translation>Échec de la connexion</translation>
     </message>
     <message>
-        <location line="-193"/>
+        <location line="-257"/>
         <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
         <translation>Cette connexion est incomplète et ne peut pas être démarrée. Un administrateur peut la compléter dans Paramètres → Connexions.</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+40"/>
         <source>Connecting to the Citrix store…</source>
         <translation>Connexion au magasin Citrix…</translation>
     </message>
@@ -2441,12 +2474,12 @@
         <translation>Alex, du support informatique, souhaite voir votre écran pour traiter votre ticket.</translation>
     </message>
     <message>
-        <location line="+75"/>
+        <location line="+128"/>
         <source>Your request for help has been sent.</source>
         <translation>Votre demande d&apos;aide a été envoyée.</translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+56"/>
         <source>“%1” added.</source>
         <translation>Connexion «&#xa0;%1&#xa0;» ajoutée.</translation>
     </message>
@@ -3371,6 +3404,16 @@
         <translation>Image d&apos;arrière-plan de l&apos;écran d&apos;accueil.</translation>
     </message>
     <message>
+        <location line="+1"/>
+        <source>Accessibility</source>
+        <translation>Accessibilité</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>On-screen keyboard and high contrast.</source>
+        <translation>Clavier virtuel et contraste élevé.</translation>
+    </message>
+    <message>
         <location line="+4"/>
         <source>Devices</source>
         <translation>Périphériques</translation>
@@ -3669,6 +3712,169 @@
         <location line="+6"/>
         <source>Speak after pressing: three seconds are recorded and played back.</source>
         <translation>Parlez après avoir appuyé&#xa0;: trois secondes sont enregistrées puis rejouées.</translation>
+    </message>
+</context>
+<context>
+    <name>SystemInfoModel</name>
+    <message>
+        <location filename="../src/settings/SystemInfoModel.cpp" line="+150"/>
+        <source>Processor</source>
+        <translation>Processeur</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Disks</source>
+        <translation>Disques</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Disk %1</source>
+        <translation>Disque %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Network adapters</source>
+        <translation>Cartes réseau</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Network adapter %1</source>
+        <translation>Carte réseau %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Displays</source>
+        <translation>Écrans</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Display %1</source>
+        <translation>Écran %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Shell version</source>
+        <translation>Version du shell</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Kernel</source>
+        <translation>Noyau</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Operating system</source>
+        <translation>Système d&apos;exploitation</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>not installed</source>
+        <translation>non installé</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1: %2, %3 free</source>
+        <translation>%1 : %2, %3 libres</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>system information</source>
+        <translation>informations système</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <location line="+19"/>
+        <source>Hardware</source>
+        <translation>Matériel</translation>
+    </message>
+    <message>
+        <location line="-19"/>
+        <location line="+19"/>
+        <source>Software</source>
+        <translation>Logiciels</translation>
+    </message>
+</context>
+<context>
+    <name>SystemInfoPage</name>
+    <message>
+        <location filename="../qml/vorplex/SystemInfoPage.qml" line="+27"/>
+        <source>The system information is on the clipboard.</source>
+        <translation>Les informations système sont dans le presse-papiers.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Saved as %1.</source>
+        <translation>Enregistré sous %1.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>The file could not be written to the drive.</source>
+        <translation>Le fichier n&apos;a pas pu être écrit sur le support.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Reading system information…</source>
+        <translation>Lecture des informations système…</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Hardware</source>
+        <translation>Matériel</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Software</source>
+        <translation>Logiciels</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>Send to support</source>
+        <translation>Envoyer au support</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copy these facts, or save them as a text file on a USB drive.</source>
+        <translation>Copiez ces informations ou enregistrez-les dans un fichier texte sur une clé USB.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Copy to clipboard</source>
+        <translation>Copier dans le presse-papiers</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Drive</source>
+        <translation>Support</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>No removable drive found</source>
+        <translation>Aucun support amovible trouvé</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive, then refresh the list.</source>
+        <translation>Insérez une clé USB, puis actualisez la liste.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh drive list</source>
+        <translation>Actualiser la liste des supports</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Save to drive</source>
+        <translation>Enregistrer sur le support</translation>
     </message>
 </context>
 <context>
@@ -4526,6 +4732,147 @@
         <location line="+6"/>
         <source>Apply</source>
         <translation>Appliquer</translation>
+    </message>
+</context>
+<context>
+    <name>WizardNetworkPage</name>
+    <message>
+        <location filename="../qml/vorplex/WizardNetworkPage.qml" line="+26"/>
+        <source>Wired network</source>
+        <translation>Réseau filaire</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A network cable brings this terminal online without further settings.</source>
+        <translation>Un câble réseau suffit pour connecter ce terminal, sans autre réglage.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Not connected</source>
+        <translation>Non connecté</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Address %1</source>
+        <translation>Adresse %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Plug in a network cable, or join a Wi-Fi network below.</source>
+        <translation>Branchez un câble réseau ou rejoignez un réseau Wi-Fi ci-dessous.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Join a wireless network when there is no cable.</source>
+        <translation>Rejoignez un réseau sans fil en l&apos;absence de câble.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Choose a Wi-Fi network…</source>
+        <translation>Choisir un réseau Wi-Fi…</translation>
+    </message>
+</context>
+<context>
+    <name>WizardView</name>
+    <message>
+        <location filename="../qml/vorplex/WizardView.qml" line="+18"/>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Choose the language of this terminal&apos;s screens.</source>
+        <translation>Choisissez la langue des écrans de ce terminal.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Keyboard</source>
+        <translation>Clavier</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Choose the keyboard layouts you type with.</source>
+        <translation>Choisissez les dispositions de clavier que vous utilisez.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Network</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Bring this terminal online.</source>
+        <translation>Connectez ce terminal au réseau.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date &amp; time</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Set the time zone and the clock.</source>
+        <translation>Réglez le fuseau horaire et l&apos;horloge.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Management server</source>
+        <translation>Serveur de gestion</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Optional: let a management server look after this terminal.</source>
+        <translation>Facultatif : confiez la gestion de ce terminal à un serveur de gestion.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+64"/>
+        <source>Welcome to your terminal</source>
+        <translation>Bienvenue sur votre terminal</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Step %1 of %2</source>
+        <translation>Étape %1 sur %2</translation>
+    </message>
+    <message>
+        <location line="+53"/>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Skip</source>
+        <translation>Passer</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Finish</source>
+        <translation>Terminer</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Next</source>
+        <translation>Suivant</translation>
     </message>
 </context>
 </TS>

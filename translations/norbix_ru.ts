@@ -2,6 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
+    <name>AccessibilityPage</name>
+    <message>
+        <location filename="../qml/vorplex/AccessibilityPage.qml" line="+12"/>
+        <source>Touch and reading</source>
+        <translation>Сенсорный ввод и читаемость</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Both take effect at once.</source>
+        <translation>Оба параметра применяются сразу.</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>On-screen keyboard</source>
+        <translation>Экранная клавиатура</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A keyboard appears on the screen whenever a text field is chosen. Its layout follows the display language.</source>
+        <translation>При выборе текстового поля на экране появляется клавиатура. Её раскладка соответствует языку интерфейса.</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>High contrast</source>
+        <translation>Высокая контрастность</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Black text on white, strong outlines and a clearly marked focus.</source>
+        <translation>Чёрный текст на белом фоне, чёткие контуры и хорошо заметный фокус.</translation>
+    </message>
+</context>
+<context>
     <name>AddBrowserConnection</name>
     <message>
         <location filename="../qml/vorplex/AddBrowserConnection.qml" line="+26"/>
@@ -2414,24 +2447,24 @@
 <context>
     <name>Main</name>
     <message>
-        <location filename="../qml/vorplex/Main.qml" line="+64"/>
+        <location filename="../qml/vorplex/Main.qml" line="+77"/>
         <source>This terminal has no network connection. Check the network cable or the Wi-Fi, then try again.</source>
         <translation>У этого терминала нет подключения к сети. Проверьте сетевой кабель или Wi-Fi и повторите попытку.</translation>
     </message>
     <message>
         <location line="+9"/>
-        <location line="+169"/>
+        <location line="+233"/>
         <location line="+34"/>
         <source>Failed to connect</source>
         <translation>Не удалось подключиться</translation>
     </message>
     <message>
-        <location line="-193"/>
+        <location line="-257"/>
         <source>This connection is incomplete and can&apos;t be started. An administrator can complete it in Settings → Connections.</source>
         <translation>Это подключение заполнено не полностью и не может быть запущено. Администратор может дополнить его в разделе Настройки → Подключения.</translation>
     </message>
     <message>
-        <location line="+34"/>
+        <location line="+40"/>
         <source>Connecting to the Citrix store…</source>
         <translation>Подключение к магазину Citrix…</translation>
     </message>
@@ -2446,12 +2479,12 @@
         <translation>Алекс из ИТ-поддержки хочет увидеть ваш экран, чтобы помочь с вашей заявкой.</translation>
     </message>
     <message>
-        <location line="+75"/>
+        <location line="+128"/>
         <source>Your request for help has been sent.</source>
         <translation>Ваш запрос о помощи отправлен.</translation>
     </message>
     <message>
-        <location line="+51"/>
+        <location line="+56"/>
         <source>“%1” added.</source>
         <translation>Подключение «%1» добавлено.</translation>
     </message>
@@ -3376,6 +3409,16 @@
         <translation>Фоновое изображение главного экрана.</translation>
     </message>
     <message>
+        <location line="+1"/>
+        <source>Accessibility</source>
+        <translation>Специальные возможности</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>On-screen keyboard and high contrast.</source>
+        <translation>Экранная клавиатура и высокая контрастность.</translation>
+    </message>
+    <message>
         <location line="+4"/>
         <source>Devices</source>
         <translation>Устройства</translation>
@@ -3674,6 +3717,169 @@
         <location line="+6"/>
         <source>Speak after pressing: three seconds are recorded and played back.</source>
         <translation>Говорите после нажатия: три секунды записываются и воспроизводятся.</translation>
+    </message>
+</context>
+<context>
+    <name>SystemInfoModel</name>
+    <message>
+        <location filename="../src/settings/SystemInfoModel.cpp" line="+150"/>
+        <source>Processor</source>
+        <translation>Процессор</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Memory</source>
+        <translation>Память</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Disks</source>
+        <translation>Диски</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Disk %1</source>
+        <translation>Диск %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Network adapters</source>
+        <translation>Сетевые адаптеры</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Network adapter %1</source>
+        <translation>Сетевой адаптер %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Displays</source>
+        <translation>Мониторы</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Display %1</source>
+        <translation>Монитор %1</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Shell version</source>
+        <translation>Версия оболочки</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Kernel</source>
+        <translation>Ядро</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>Operating system</source>
+        <translation>Операционная система</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>not installed</source>
+        <translation>не установлено</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>unknown</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>%1: %2, %3 free</source>
+        <translation>%1: %2, свободно %3</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>system information</source>
+        <translation>сведения о системе</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <location line="+19"/>
+        <source>Hardware</source>
+        <translation>Оборудование</translation>
+    </message>
+    <message>
+        <location line="-19"/>
+        <location line="+19"/>
+        <source>Software</source>
+        <translation>Программное обеспечение</translation>
+    </message>
+</context>
+<context>
+    <name>SystemInfoPage</name>
+    <message>
+        <location filename="../qml/vorplex/SystemInfoPage.qml" line="+27"/>
+        <source>The system information is on the clipboard.</source>
+        <translation>Сведения о системе скопированы в буфер обмена.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Saved as %1.</source>
+        <translation>Сохранено как %1.</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>The file could not be written to the drive.</source>
+        <translation>Не удалось записать файл на накопитель.</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Reading system information…</source>
+        <translation>Чтение сведений о системе…</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Hardware</source>
+        <translation>Оборудование</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Software</source>
+        <translation>Программное обеспечение</translation>
+    </message>
+    <message>
+        <location line="+36"/>
+        <source>Send to support</source>
+        <translation>Отправить в поддержку</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Copy these facts, or save them as a text file on a USB drive.</source>
+        <translation>Скопируйте эти сведения или сохраните их в текстовый файл на USB-накопителе.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Copy to clipboard</source>
+        <translation>Копировать в буфер обмена</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Drive</source>
+        <translation>Накопитель</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>No removable drive found</source>
+        <translation>Съёмный накопитель не найден</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Insert a USB drive, then refresh the list.</source>
+        <translation>Подключите USB-накопитель и обновите список.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh drive list</source>
+        <translation>Обновить список накопителей</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Save to drive</source>
+        <translation>Сохранить на накопитель</translation>
     </message>
 </context>
 <context>
@@ -4531,6 +4737,147 @@
         <location line="+6"/>
         <source>Apply</source>
         <translation>Применить</translation>
+    </message>
+</context>
+<context>
+    <name>WizardNetworkPage</name>
+    <message>
+        <location filename="../qml/vorplex/WizardNetworkPage.qml" line="+26"/>
+        <source>Wired network</source>
+        <translation>Проводная сеть</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>A network cable brings this terminal online without further settings.</source>
+        <translation>Сетевой кабель подключает этот терминал без дополнительных настроек.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Connected</source>
+        <translation>Подключено</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Not connected</source>
+        <translation>Не подключено</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Address %1</source>
+        <translation>Адрес %1</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Plug in a network cable, or join a Wi-Fi network below.</source>
+        <translation>Подключите сетевой кабель или выберите сеть Wi-Fi ниже.</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Join a wireless network when there is no cable.</source>
+        <translation>Подключитесь к беспроводной сети, если кабеля нет.</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Choose a Wi-Fi network…</source>
+        <translation>Выбрать сеть Wi-Fi…</translation>
+    </message>
+</context>
+<context>
+    <name>WizardView</name>
+    <message>
+        <location filename="../qml/vorplex/WizardView.qml" line="+18"/>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Choose the language of this terminal&apos;s screens.</source>
+        <translation>Выберите язык интерфейса этого терминала.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Keyboard</source>
+        <translation>Клавиатура</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Choose the keyboard layouts you type with.</source>
+        <translation>Выберите раскладки клавиатуры, которыми вы пользуетесь.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Network</source>
+        <translation>Сеть</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Bring this terminal online.</source>
+        <translation>Подключите этот терминал к сети.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Date &amp; time</source>
+        <translation>Дата и время</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Set the time zone and the clock.</source>
+        <translation>Настройте часовой пояс и часы.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Management server</source>
+        <translation>Сервер управления</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Optional: let a management server look after this terminal.</source>
+        <translation>Необязательно: передайте управление этим терминалом серверу управления.</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <location line="+64"/>
+        <source>Welcome to your terminal</source>
+        <translation>Добро пожаловать</translation>
+    </message>
+    <message>
+        <location line="+21"/>
+        <source>Step %1 of %2</source>
+        <translation>Шаг %1 из %2</translation>
+    </message>
+    <message>
+        <location line="+53"/>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Skip</source>
+        <translation>Пропустить</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Finish</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Next</source>
+        <translation>Далее</translation>
     </message>
 </context>
 </TS>

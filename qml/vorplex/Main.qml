@@ -21,22 +21,35 @@
  *                           displays, power, datetime, sound, keyboard, mouse, language, wallpaper,
  *                           printers, usb-storage, certificates, password, management, updates,
  *                           export, import, logs, system-info
+ *   wizard, wizard/<step>   the first-run wizard, at its first step or at one of: language,
+ *                           keyboard, network, time, management
  * Unknown names log a warning and show the home screen.
  */
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import NorbixUi 1.0
 import com.APIManager 1.0
+import com.AccessibilityBackend 1.0
 import com.ConnectionManager 1.0
 import com.RDPConnector 1.0
+import com.WizardBackend 1.0
 
 ApplicationWindow {
     id: window
 
     property string currentView: "main"
+    // The settings area is built the first time it is shown, not at start.
+    property bool settingsLoaded: false
+    readonly property var settingsView: settingsLoader.item
+
+    onCurrentViewChanged: {
+        if (currentView === "settings")
+            settingsLoaded = true;
+    }
 
     function showHome() {
-        settingsView.lock();
+        if (settingsView)
+            settingsView.lock();
         mainView.helpAvailable = APIManager.isEnabled();
         currentView = "main";
     }
@@ -84,6 +97,12 @@ ApplicationWindow {
             return;
         }
         formDialog.openForm(form, index);
+    }
+
+    function showWizard() {
+        wizardBackend.start();
+        if (!wizardBackend.done)
+            currentView = "wizard";
     }
 
     function showError(text) {
@@ -135,6 +154,12 @@ ApplicationWindow {
             mainView.helpAnswered = true;
             return;
         }
+        if (page === "wizard" || page.indexOf("wizard/") === 0) {
+            showWizard();
+            if (page !== "wizard" && !wizardBackend.goTo(page.substring("wizard/".length)))
+                console.warn("openPage: no wizard step", page);
+            return;
+        }
         if (page === "settings") {
             showSettings("");
             return;
@@ -149,10 +174,13 @@ ApplicationWindow {
             section = page;
         else if (page.indexOf("settings/") === 0)
             section = page.substring("settings/".length);
-        if (section !== "" && settingsView.hasSection(section)) {
+        if (section !== "") {
             currentView = "settings";
-            settingsView.openUnlocked(section);
-            return;
+            if (settingsView.hasSection(section)) {
+                settingsView.openUnlocked(section);
+                return;
+            }
+            currentView = "main";
         }
         console.warn("openPage: unknown page", page);
     }
@@ -168,6 +196,50 @@ ApplicationWindow {
 
     ConnectionKinds {
         id: kinds
+    }
+
+    Binding {
+        target: Theme
+        property: "highContrast"
+        value: AccessibilityBackend.highContrast
+    }
+
+    // The screens end where the on-screen keyboard begins, so it never covers the field in use.
+    footer: Item {
+        implicitHeight: keyboardLoader.item ? keyboardLoader.item.keyboardHeight : 0
+    }
+
+    Loader {
+        id: keyboardLoader
+        // Above dialogs too: their fields need the keyboard as much as the pages' do.
+        parent: Overlay.overlay
+        z: 10000
+        anchors.fill: parent
+        active: AccessibilityBackend.onScreenKeyboard && AccessibilityBackend.inputMethodReady
+        source: "OnScreenKeyboard.qml"
+    }
+
+    // A new terminal starts in the first-run wizard until it is finished.
+    Component.onCompleted: {
+        if (wizardBackend.isNeeded())
+            showWizard();
+    }
+
+    WizardBackend {
+        id: wizardBackend
+    }
+
+    Loader {
+        id: wizardLoader
+        anchors.fill: parent
+        z: 1
+        active: window.currentView === "wizard"
+        focus: active
+        sourceComponent: WizardView {
+            wizard: wizardBackend
+            focus: true
+            onFinished: window.showHome()
+        }
     }
 
     MainView {
@@ -198,11 +270,16 @@ ApplicationWindow {
         onConnectionSettingsRequested: window.showSettings("connections")
     }
 
-    SettingsView {
-        id: settingsView
+    Loader {
+        id: settingsLoader
         anchors.fill: parent
+        active: window.settingsLoaded
         visible: window.currentView === "settings"
-        onHomeRequested: window.showHome()
+        sourceComponent: Component {
+            SettingsView {
+                onHomeRequested: window.showHome()
+            }
+        }
     }
 
     Connections {

@@ -42,7 +42,9 @@ QtObject {
                 { id: "language", title: qsTr("Language"), icon: "globe", admin: false, page: "LanguagePage.qml",
                   description: qsTr("Display language and regional formats.") },
                 { id: "wallpaper", title: qsTr("Wallpaper"), icon: "image", admin: false, page: "WallpaperPage.qml",
-                  description: qsTr("Background image of the home screen.") }
+                  description: qsTr("Background image of the home screen.") },
+                { id: "accessibility", title: qsTr("Accessibility"), icon: "eye", admin: false, page: "AccessibilityPage.qml",
+                  description: qsTr("On-screen keyboard and high contrast.") }
             ]
         },
         {
@@ -84,7 +86,7 @@ QtObject {
             sections: [
                 { id: "logs", title: qsTr("Logs"), icon: "document", admin: true, page: "LogsPage.qml",
                   description: qsTr("Diagnostic messages of this session and export for support.") },
-                { id: "system-info", title: qsTr("System information"), icon: "info", admin: false, page: "",
+                { id: "system-info", title: qsTr("System information"), icon: "info", admin: false, page: "SystemInfoPage.qml",
                   description: qsTr("Hardware, software version and network details.") }
             ]
         }

@@ -1,17 +1,23 @@
 #include "QmlRegistration.h"
 
+#include "AccessibilityBackend.h"
 #include "APIManager.h"
+#include "AssistanceTunnels.h"
 #include "BrowserConnectDialogBackend.h"
-#include "CitrixConnectDialogBackend.h"
+#include "CertificateExpiry.h"
 #include "CertificatesStorage.h"
+#include "CitrixConnectDialogBackend.h"
 #include "CitrixConnector.h"
+#include "ConnectionCheck.h"
 #include "ConnectionManager.h"
 #include "DisplayRevertGuard.h"
+#include "InfoBackend.h"
 #include "LanguageBackend.h"
 #include "LocalUpdaterBackend.h"
 #include "LogManager.h"
 #include "MouseSettingsBackend.h"
 #include "NetworkManager.h"
+#include "NetworkStatus.h"
 #include "PasswordManager.h"
 #include "PingManager.h"
 #include "PowerBackend.h"
@@ -25,17 +31,14 @@
 #include "SoundSettingsBackend.h"
 #include "TeamsConnector.h"
 #include "TimeBackend.h"
-#include "USBManager.h"
 #include "Updater.h"
+#include "USBManager.h"
 #include "VMWareConnectDialogBackend.h"
 #include "VNCConnectDialogBackend.h"
 #include "VNCConnector.h"
-#include "WallpapersManager.h"
-#include "AssistanceTunnels.h"
-#include "CertificateExpiry.h"
-#include "ConnectionCheck.h"
-#include "NetworkStatus.h"
 #include "VNCPasswordBackend.h"
+#include "WallpapersManager.h"
+#include "WizardBackend.h"
 
 #include <QtQml>
 
@@ -55,6 +58,7 @@ void registerQmlTypes()
     qmlRegisterType<PrintersBackend>("com.PrintersBackend", 1, 0, "PrintersBackend");
     qmlRegisterType<TeamsConnector>("com.TeamsConnector", 1, 0, "TeamsConnector");
     qmlRegisterType<CertificatesStorage>("com.CertificatesStorage", 1, 0, "CertificatesStorage");
+    qmlRegisterType<InfoBackend>("com.InfoBackend", 1, 0, "InfoBackend");
     qmlRegisterType<LogManager>("com.LogManager", 1, 0, "LogManager");
     qmlRegisterType<LocalUpdaterBackend>("com.LocalUpdaterBackend", 1, 0, "LocalUpdaterBackend");
     qmlRegisterType<USBManager>("com.USBManager", 1, 0, "USBManager");
@@ -79,6 +83,9 @@ void registerQmlTypes()
     qmlRegisterType<CertificateExpiry>("com.CertificateExpiry", 1, 0, "CertificateExpiry");
     qmlRegisterType<VNCPasswordBackend>("com.VNCPasswordBackend", 1, 0, "VNCPasswordBackend");
     qmlRegisterSingletonType<AssistanceTunnels>("com.AssistanceTunnels", 1, 0, "AssistanceTunnels", &AssistanceTunnels::qmlInstance);
+
+    qmlRegisterType<WizardBackend>("com.WizardBackend", 1, 0, "WizardBackend");
+    qmlRegisterSingletonType<AccessibilityBackend>("com.AccessibilityBackend", 1, 0, "AccessibilityBackend", &AccessibilityBackend::qmlInstance);
 }
 
 void ContextObjects::publish(QQmlContext* context)
@@ -87,6 +94,9 @@ void ContextObjects::publish(QQmlContext* context)
     context->setContextProperty(QStringLiteral("connectionTableModel"), &connectionTableModel);
     qDebug() << "prepare connectionsModel";
     context->setContextProperty(QStringLiteral("connectionsModel"), &connectionsModel);
+    qDebug() << "prepare systemInfoModel";
+    systemInfoModel.asyncRead();
+    context->setContextProperty(QStringLiteral("systemInfoModel"), &systemInfoModel);
     qDebug() << "prepare keyboardLayoutModel";
     context->setContextProperty(QStringLiteral("keyboadLayoutModel"), &keyboardLayoutModel);
     qDebug() << "prepare wifiAvailableModel";

@@ -8,6 +8,7 @@
 #include "HardwareUtils.h"
 #include "KeyboardsLayoutModel.h"
 #include "ScreenListModel.h"
+#include "SystemInfoModel.h"
 #include "UserAvailableWifiModel.h"
 #include "WiFiAvailableConnectionsModel.h"
 #include "WiFiSavedConnectionsModel.h"
@@ -21,6 +22,7 @@ void registerQmlTypes();
 struct ContextObjects {
     ConnectionTableModel connectionTableModel;
     ConnectionsModel connectionsModel;
+    SystemInfoModel systemInfoModel{nullptr};
     KeyboardsLayoutModel keyboardLayoutModel;
     WiFiAvailableConnectionsModel wifiAvailableModel;
     WiFiSavedConnectionsModel wifiSavedModel;

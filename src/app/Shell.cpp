@@ -2,6 +2,7 @@
 
 #include "APICollectorThread.h"
 #include "APIManager.h"
+#include "AccessibilityBackend.h"
 #include "CertificatesStorage.h"
 #include "CommandRunner.h"
 #include "ConnectionManager.h"
@@ -122,6 +123,7 @@ int runShell(int argc, char* argv[])
     qWarning("Version: %s", kVersion);
 
     QCoreApplication::setAttribute(Qt::AA_UseOpenGLES, true);
+    AccessibilityBackend::prepareInputMethod();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("norbix-shell"));
     QApplication::setApplicationVersion(QString::fromLatin1(kVersion));

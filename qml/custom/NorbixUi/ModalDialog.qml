@@ -46,7 +46,8 @@ Popup {
     parent: Overlay.overlay
     // Rounded so text stays on whole pixels.
     x: parent ? Math.round((parent.width - width) / 2) : 0
-    y: parent ? Math.round((parent.height - height) / 2) : 0
+    // Centred in what the on-screen keyboard leaves free, so the field in use stays visible.
+    y: parent ? Math.max(0, Math.round((parent.height - Qt.inputMethod.keyboardRectangle.height - height) / 2)) : 0
     width: parent ? Math.min(Theme.dialogWidth, Math.max(320, parent.width - 2 * Theme.spacingXxl)) : Theme.dialogWidth
     modal: true
     focus: true
@@ -81,6 +82,11 @@ Popup {
     contentItem: ColumnLayout {
         id: layout
         spacing: 0
+
+        // Enter confirms from anywhere in the dialog that does not take the key itself (a focused
+        // button does first); Escape cancels through the close policy.
+        Keys.onReturnPressed: dialog.ok()
+        Keys.onEnterPressed: dialog.ok()
 
         // A plain Column: wrapped text inside a nested layout keeps a stale height when the
         // text changes while the dialog is closed.

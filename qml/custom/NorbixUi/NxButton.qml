@@ -109,4 +109,8 @@ Button {
             ColorAnimation { duration: Theme.durationFast }
         }
     }
+
+    // Enter confirms the focused button, as Space does.
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 }

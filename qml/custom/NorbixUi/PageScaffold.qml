@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import QtQuick.Window 2.15
 
 // Settings page frame: title bar plus a scrolling, width-limited content column.
 Item {
@@ -20,6 +21,39 @@ Item {
     readonly property real columnWidth: Math.max(360, Math.min(width - 2 * sideMargin, maxContentWidth))
     readonly property real columnX: Math.round((width - columnWidth) / 2)
     readonly property real viewportHeight: flick.height
+
+    // Scrolls the content so that an item inside it is fully in view (with a margin).
+    function ensureVisible(item) {
+        if (!item || !flick.contentItem)
+            return;
+        var inside = false;
+        for (var p = item.parent; p; p = p.parent) {
+            if (p === contentColumn) {
+                inside = true;
+                break;
+            }
+        }
+        if (!inside)
+            return;
+        var top = item.mapToItem(flick.contentItem, 0, 0).y - Theme.spacingL;
+        var bottom = top + item.height + 2 * Theme.spacingL;
+        var maxY = Math.max(0, flick.contentHeight - flick.height);
+        if (top < flick.contentY)
+            flick.contentY = Math.max(0, top);
+        else if (bottom > flick.contentY + flick.height)
+            flick.contentY = Math.min(maxY, bottom - flick.height);
+    }
+
+    // Keyboard navigation and the on-screen keyboard both move the focus out of view: follow it.
+    Connections {
+        target: page.Window.window
+        ignoreUnknownSignals: true
+
+        function onActiveFocusItemChanged() {
+            page.ensureVisible(page.Window.window.activeFocusItem);
+        }
+    }
+    onHeightChanged: if (page.Window.window) ensureVisible(page.Window.window.activeFocusItem)
 
     Rectangle {
         id: titleBar
