@@ -1,4 +1,5 @@
 #include "SystemInfoParsers.h"
+#include "JsonText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -88,7 +89,7 @@ QList<Disk> disks(const QByteArray& df)
 QList<Adapter> adapters(const QByteArray& ipJson)
 {
     QList<Adapter> result;
-    const QJsonDocument document = QJsonDocument::fromJson(ipJson);
+    const QJsonDocument document = JsonText::parse(ipJson);
     for (const QJsonValue& value : document.array()) {
         const QJsonObject link = value.toObject();
         const QString name = link.value(QStringLiteral("ifname")).toString();

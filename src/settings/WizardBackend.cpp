@@ -1,6 +1,7 @@
 #include "WizardBackend.h"
 
 #include "AtomicFile.h"
+#include "JsonText.h"
 #include "SystemPaths.h"
 
 #include <QDebug>
@@ -67,7 +68,7 @@ QStringList WizardBackend::stepsNeeded()
 WizardBackend::Progress WizardBackend::parseProgress(const QByteArray& json)
 {
     QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+    const QJsonDocument document = JsonText::parse(json, &error);
     if (error.error != QJsonParseError::NoError || !document.isObject())
         return {};
     const QJsonObject object = document.object();
