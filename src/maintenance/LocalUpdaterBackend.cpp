@@ -59,7 +59,7 @@ std::optional<LocalUpdaterBackend::Status> LocalUpdaterBackend::parseStatus(cons
     status.state = state.toString();
     const QJsonValue progress = object.value(QLatin1String("progress"));
     if (progress.isDouble())
-        status.progress = qBound(0, qRound(progress.toDouble()), 100);
+        status.progress = qRound(qBound(0.0, progress.toDouble(), 100.0)); // bounded first: huge numbers fit no int
     else if (!progress.isUndefined() && !progress.isNull())
         return std::nullopt;
     const auto version = optionalString(object, "version");

@@ -301,7 +301,9 @@ QJsonArray withFlag(QJsonArray networks, const QString& ssid, const QString& key
     bool found = false;
     for (int i = 0; i < networks.size(); ++i) {
         QJsonObject entry = networks.at(i).toObject();
-        if (entry.value(QLatin1String("ssid")).toString() == ssid) {
+        // An exclusive flag goes to the first entry of that name only: a file edited by hand may
+        // name a network twice, and still only one network may connect by itself.
+        if (entry.value(QLatin1String("ssid")).toString() == ssid && !(exclusive && found)) {
             entry.insert(key, on);
             found = true;
         } else if (exclusive) {

@@ -85,6 +85,9 @@ private slots:
         QTest::newRow("nulls are absent") << QByteArray(R"({"state":"idle","progress":null,"version":null})") << true << "idle" << 0 << "";
         QTest::newRow("progress above 100") << QByteArray(R"({"state":"installing","progress":250})") << true << "installing" << 100 << "";
         QTest::newRow("negative progress") << QByteArray(R"({"state":"installing","progress":-3})") << true << "installing" << 0 << "";
+        // Beyond any int: bounded before rounding (rounding first overflowed).
+        QTest::newRow("huge progress") << QByteArray(R"({"state":"installing","progress":4e36})") << true << "installing" << 100 << "";
+        QTest::newRow("hugely negative") << QByteArray(R"({"state":"installing","progress":-1e300})") << true << "installing" << 0 << "";
         QTest::newRow("fraction rounds") << QByteArray(R"({"state":"installing","progress":49.6})") << true << "installing" << 50 << "";
         QTest::newRow("no state") << QByteArray(R"({"progress":3})") << false << "" << 0 << "";
         QTest::newRow("empty state") << QByteArray(R"({"state":""})") << false << "" << 0 << "";

@@ -347,6 +347,19 @@ private slots:
         QCOMPARE(flagsOf(networks, "Unknown").show, false);
     }
 
+    // A file edited by hand that names a network twice still lets one entry connect by itself.
+    void autoConnectGoesToOneEntryOfARepeatedName()
+    {
+        const QJsonArray file = QJsonDocument::fromJson(R"([{"ssid":"Lab"},{"ssid":"Lab","autoConnect":true},{"ssid":"Guest","autoConnect":true}])").array();
+        const QJsonArray networks = withAutoConnect(file, "Lab", true);
+        int connecting = 0;
+        for (const QJsonValue& entry : networks)
+            connecting += entry.toObject().value("autoConnect").toBool() ? 1 : 0;
+        QCOMPARE(connecting, 1);
+        QCOMPARE(networks.at(0).toObject().value("autoConnect").toBool(), true);
+        QCOMPARE(networks.size(), 3);
+    }
+
     void duplicateEntriesAllGo()
     {
         const QJsonArray networks{QJsonObject{{"ssid", "A"}}, QJsonObject{{"ssid", "B"}}, QJsonObject{{"ssid", "A"}}};
