@@ -220,9 +220,10 @@ QByteArray withoutRepeatedKeys(const QByteArray& text)
 {
     if (!text.contains('{'))
         return text;
+    // Repeats found before a syntax error are taken out too: Qt would build (and leak) them before
+    // it reaches the error. The error itself stays for Qt to report.
     Scanner scanner(text);
-    if (!scanner.scan())
-        return text;
+    scanner.scan();
     QVector<QPair<int, int>> cuts = scanner.cuts();
     if (cuts.isEmpty())
         return text;

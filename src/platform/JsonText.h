@@ -12,7 +12,7 @@ namespace JsonText {
 QJsonDocument parse(const QByteArray& text, QJsonParseError* error = nullptr);
 
 // The text without the earlier repeats of any object key (keys compared after unescaping). Text
-// without repeats, or that is not JSON, comes back unchanged.
+// without repeats comes back unchanged; text that is not JSON loses the repeats before its error.
 QByteArray withoutRepeatedKeys(const QByteArray& text);
 
 } // namespace JsonText
