@@ -10,13 +10,18 @@
     </message>
     <message>
         <location line="+1"/>
-        <source>Both take effect at once.</source>
-        <translation>Beide Einstellungen wirken sofort.</translation>
+        <source>High contrast takes effect at once.</source>
+        <translation>Der hohe Kontrast wirkt sofort.</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>On-screen keyboard</source>
         <translation>Bildschirmtastatur</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The on-screen keyboard appears after the next start of the terminal.</source>
+        <translation>Die Bildschirmtastatur erscheint nach dem nächsten Start des Terminals.</translation>
     </message>
     <message>
         <location line="+1"/>

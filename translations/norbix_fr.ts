@@ -10,13 +10,18 @@
     </message>
     <message>
         <location line="+1"/>
-        <source>Both take effect at once.</source>
-        <translation>Les deux réglages s&apos;appliquent immédiatement.</translation>
+        <source>High contrast takes effect at once.</source>
+        <translation>Le contraste élevé s&apos;applique immédiatement.</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>On-screen keyboard</source>
         <translation>Clavier virtuel</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The on-screen keyboard appears after the next start of the terminal.</source>
+        <translation>Le clavier virtuel apparaîtra au prochain démarrage du terminal.</translation>
     </message>
     <message>
         <location line="+1"/>

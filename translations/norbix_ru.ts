@@ -10,13 +10,18 @@
     </message>
     <message>
         <location line="+1"/>
-        <source>Both take effect at once.</source>
-        <translation>Оба параметра применяются сразу.</translation>
+        <source>High contrast takes effect at once.</source>
+        <translation>Высокая контрастность включается сразу.</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>On-screen keyboard</source>
         <translation>Экранная клавиатура</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The on-screen keyboard appears after the next start of the terminal.</source>
+        <translation>Экранная клавиатура появится после следующего запуска терминала.</translation>
     </message>
     <message>
         <location line="+1"/>

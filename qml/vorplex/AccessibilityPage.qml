@@ -10,13 +10,15 @@ PageScaffold {
     Card {
         Layout.fillWidth: true
         title: qsTr("Touch and reading")
-        subtitle: qsTr("Both take effect at once.")
+        subtitle: qsTr("High contrast takes effect at once.")
 
         SwitchRow {
             Layout.fillWidth: true
             iconName: "keyboard"
             title: qsTr("On-screen keyboard")
-            description: qsTr("A keyboard appears on the screen whenever a text field is chosen. Its layout follows the display language.")
+            description: AccessibilityBackend.onScreenKeyboard && !AccessibilityBackend.inputMethodReady
+                         ? qsTr("The on-screen keyboard appears after the next start of the terminal.")
+                         : qsTr("A keyboard appears on the screen whenever a text field is chosen. Its layout follows the display language.")
             checked: AccessibilityBackend.onScreenKeyboard
             onToggled: AccessibilityBackend.onScreenKeyboard = checked
         }

@@ -38,7 +38,10 @@ QObject* AccessibilityBackend::qmlInstance(QQmlEngine*, QJSEngine*)
 
 void AccessibilityBackend::prepareInputMethod()
 {
-    if (qEnvironmentVariableIsSet("QT_IM_MODULE"))
+    // Only for a terminal that uses the on-screen keyboard: as the input method it replaces the
+    // X compose handling, so dead keys of a physical keyboard (^ then e) would stop composing.
+    if (qEnvironmentVariableIsSet("QT_IM_MODULE")
+        || !QSettings(iniPath(), QSettings::IniFormat).value(kOnScreenKeyboard, false).toBool())
         return;
     qputenv("QT_IM_MODULE", QByteArrayLiteral("qtvirtualkeyboard"));
 }

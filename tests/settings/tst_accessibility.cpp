@@ -80,11 +80,18 @@ private slots:
     void inputMethodLeftToTheEnvironment()
     {
         const QByteArray saved = qgetenv("QT_IM_MODULE");
+        TestSandbox sandbox;
         qputenv("QT_IM_MODULE", "ibus");
         AccessibilityBackend::prepareInputMethod();
         QCOMPARE(qgetenv("QT_IM_MODULE"), QByteArray("ibus"));
         QVERIFY(!AccessibilityBackend::inputMethodReady());
+        // Switched off (the default): the X compose handling stays, dead keys keep working.
         qunsetenv("QT_IM_MODULE");
+        AccessibilityBackend::prepareInputMethod();
+        QVERIFY(!qEnvironmentVariableIsSet("QT_IM_MODULE"));
+        QVERIFY(!AccessibilityBackend::inputMethodReady());
+        // Switched on: the on-screen keyboard is the input method from the next start on.
+        AccessibilityBackend().setOnScreenKeyboard(true);
         AccessibilityBackend::prepareInputMethod();
         QCOMPARE(qgetenv("QT_IM_MODULE"), QByteArray("qtvirtualkeyboard"));
         QVERIFY(AccessibilityBackend::inputMethodReady());
