@@ -54,7 +54,8 @@ void migrateFiles()
 void removeWriteLeftovers()
 {
     static const QRegularExpression leftover(QStringLiteral("^(.+\\.lock(\\.rmlock)?|.+\\.[A-Za-z0-9]{6})$"));
-    for (const QString& folder : {SystemPaths::dataFile(QString()), SystemPaths::dataFile(QStringLiteral("wallpaper"))}) {
+    for (const QString& folder : {SystemPaths::dataFile(QString()), SystemPaths::dataFile(QStringLiteral("wallpaper")),
+                                  SystemPaths::dataFile(QStringLiteral("8021x"))}) {
         const QDir dir(folder);
         for (const QString& name : dir.entryList(QDir::Files | QDir::Hidden)) {
             if (!leftover.match(name).hasMatch())
