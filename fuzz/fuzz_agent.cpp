@@ -59,7 +59,7 @@ void checkWire(const QByteArray& text)
 // one of its own members, named "Group" or "Group/Key".
 void checkPush(const QByteArray& text)
 {
-    const QJsonObject document = QJsonDocument::fromJson(text).object();
+    const QJsonObject document = JsonText::parse(text).object();
     const QStringList skipped = SettingsPush(SettingsPush::Targets()).apply(document);
     // Names may hold "/" themselves: some split of "Group/Key" must name a member and its key.
     auto names = [&document](const QString& name) {
@@ -92,7 +92,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         g_sent.clear();
         APIManager::getInstance()->handleRequest(QString::fromUtf8(text));
         // Every answer is one JSON object.
-        if (!g_sent.isEmpty() && !QJsonDocument::fromJson(g_sent.toUtf8()).isObject())
+        if (!g_sent.isEmpty() && !JsonText::parse(g_sent.toUtf8()).isObject())
             std::abort();
         break;
     case 1:
