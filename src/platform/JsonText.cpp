@@ -85,8 +85,8 @@ private:
                     decoded->append(QString::fromUtf8(raw));
                 return true;
             }
-            if (static_cast<unsigned char>(c) < 0x20)
-                return false;
+            // Raw control characters are let through as Qt's parser lets them through: a stricter
+            // scan would stop early and leave the repeats after them to Qt.
             if (c != '\\') {
                 raw.append(c);
                 continue;

@@ -39,8 +39,10 @@ private slots:
         QTest::newRow("cut short") << QByteArray("{\"a\":{\"b\":1},\"a\":") << QByteArray("{\"a\":");
         QTest::newRow("garbage after") << QByteArray("{\"a\":{},\"a\":1} x") << QByteArray("{\"a\":1} x");
         QTest::newRow("bad escape") << QByteArray("{\"a\\q\":{},\"a\":1}") << QByteArray("{\"a\\q\":{},\"a\":1}");
-        QTest::newRow("control character in a string") << QByteArray("{\"a\n\":{},\"a\":1}")
-                                                       << QByteArray("{\"a\n\":{},\"a\":1}");
+        // Qt takes raw control characters inside strings; so does the scan, or repeats after them
+        // would reach Qt.
+        QTest::newRow("control character in a key") << QByteArray("{\"b\x01\":{\"c\":[]},\"b\x01\":2}")
+                                                    << QByteArray("{\"b\x01\":2}");
         const QByteArray deep = QByteArray(1100, '[') + QByteArray(1100, ']');
         QTest::newRow("deeper than Qt allows") << deep << deep;
         QTest::newRow("empty") << QByteArray() << QByteArray();
