@@ -9,7 +9,7 @@
 
 namespace {
 
-// Deeper than Qt's own limit: such text is refused by Qt anyway, so it is left to it.
+// Qt's own nesting limit.
 constexpr int kMaxDepth = 1024;
 
 // A validating pass over JSON text that notes, per object, where each member starts, and the byte
@@ -20,12 +20,21 @@ public:
 
     bool scan()
     {
+        // Qt skips a UTF-8 byte order mark before the value.
+        if (m_text.startsWith("\xEF\xBB\xBF"))
+            m_at = 3;
         skipSpace();
         if (!value(0))
             return false;
         skipSpace();
+        m_complete = true;
         return m_at == m_text.size();
     }
+
+    // Where the scan stopped, and whether it stopped after a whole value (text follows it).
+    int position() const { return m_at; }
+    bool complete() const { return m_complete; }
+    bool tooDeep() const { return m_tooDeep; }
 
     // Replaced members as [begin, end) ranges, outermost first where they nest.
     QVector<QPair<int, int>> cuts() const { return m_cuts; }
@@ -109,11 +118,10 @@ private:
                 }
                 continue;
             }
+            // Qt takes an unknown escape as the character itself; so does the scan.
             static const char kSimple[] = "\"\\/bfnrt";
-            const char* found = std::strchr(kSimple, escape);
-            if (escape == '\0' || found == nullptr)
-                return false;
-            raw.append("\"\\/\b\f\n\r\t"[found - kSimple]);
+            const char* found = escape == '\0' ? nullptr : std::strchr(kSimple, escape);
+            raw.append(found ? "\"\\/\b\f\n\r\t"[found - kSimple] : escape);
         }
         return false;
     }
@@ -140,8 +148,10 @@ private:
 
     bool array(int depth)
     {
-        if (depth > kMaxDepth)
+        if (depth > kMaxDepth) {
+            m_tooDeep = true;
             return false;
+        }
         ++m_at; // '['
         skipSpace();
         if (peek() == ']') {
@@ -165,8 +175,10 @@ private:
 
     bool object(int depth)
     {
-        if (depth > kMaxDepth)
+        if (depth > kMaxDepth) {
+            m_tooDeep = true;
             return false;
+        }
         ++m_at; // '{'
         skipSpace();
         if (peek() == '}') {
@@ -209,22 +221,13 @@ private:
 
     const QByteArray& m_text;
     int m_at;
+    bool m_complete = false;
+    bool m_tooDeep = false;
     QVector<QPair<int, int>> m_cuts;
 };
 
-} // namespace
-
-namespace JsonText {
-
-QByteArray withoutRepeatedKeys(const QByteArray& text)
+QByteArray cutOut(const QByteArray& text, QVector<QPair<int, int>> cuts)
 {
-    if (!text.contains('{'))
-        return text;
-    // Repeats found before a syntax error are taken out too: Qt would build (and leak) them before
-    // it reaches the error. The error itself stays for Qt to report.
-    Scanner scanner(text);
-    scanner.scan();
-    QVector<QPair<int, int>> cuts = scanner.cuts();
     if (cuts.isEmpty())
         return text;
     std::sort(cuts.begin(), cuts.end());
@@ -241,9 +244,34 @@ QByteArray withoutRepeatedKeys(const QByteArray& text)
     return kept;
 }
 
+} // namespace
+
+namespace JsonText {
+
+QByteArray withoutRepeatedKeys(const QByteArray& text)
+{
+    if (!text.contains('{'))
+        return text;
+    Scanner scanner(text);
+    scanner.scan();
+    return cutOut(text, scanner.cuts());
+}
+
 QJsonDocument parse(const QByteArray& text, QJsonParseError* error)
 {
-    return QJsonDocument::fromJson(withoutRepeatedKeys(text), error);
+    Scanner scanner(text);
+    if (!scanner.scan()) {
+        // Text that is not JSON never reaches Qt: on some broken texts its parser reads on past
+        // where a strict reading stops and leaks what it built before it gives up.
+        if (error) {
+            error->offset = scanner.position();
+            error->error = scanner.tooDeep() ? QJsonParseError::DeepNesting
+                    : scanner.complete()     ? QJsonParseError::GarbageAtEnd
+                                             : QJsonParseError::IllegalValue;
+        }
+        return {};
+    }
+    return QJsonDocument::fromJson(cutOut(text, scanner.cuts()), error);
 }
 
 } // namespace JsonText

@@ -35,10 +35,12 @@ private slots:
                                                << QByteArray("{\"s\":\"{\\\"a\\\":1,\\\"a\\\":2}\",\"t\":\"}\"}");
         QTest::newRow("non-ASCII keys") << QByteArray("{\"\xc3\xa9t\xc3\xa9\":[],\"\xc3\xa9t\xc3\xa9\":1}")
                                         << QByteArray("{\"\xc3\xa9t\xc3\xa9\":1}");
-        // Not JSON: Qt refuses it; repeats before the error go first (Qt builds those before failing).
+        // Not JSON: the repeats before the error still go.
         QTest::newRow("cut short") << QByteArray("{\"a\":{\"b\":1},\"a\":") << QByteArray("{\"a\":");
         QTest::newRow("garbage after") << QByteArray("{\"a\":{},\"a\":1} x") << QByteArray("{\"a\":1} x");
-        QTest::newRow("bad escape") << QByteArray("{\"a\\q\":{},\"a\":1}") << QByteArray("{\"a\\q\":{},\"a\":1}");
+        // Qt reads an unknown escape as the character itself.
+        QTest::newRow("unknown escape") << QByteArray("{\"a\\q\":{},\"a\":1}") << QByteArray("{\"a\\q\":{},\"a\":1}");
+        QTest::newRow("unknown escape, same key") << QByteArray("{\"\\a\":{},\"a\":1}") << QByteArray("{\"a\":1}");
         // Qt takes raw control characters inside strings; so does the scan, or repeats after them
         // would reach Qt.
         QTest::newRow("control character in a key") << QByteArray("{\"b\x01\":{\"c\":[]},\"b\x01\":2}")
@@ -46,18 +48,45 @@ private slots:
         const QByteArray deep = QByteArray(1100, '[') + QByteArray(1100, ']');
         QTest::newRow("deeper than Qt allows") << deep << deep;
         QTest::newRow("empty") << QByteArray() << QByteArray();
+        QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF{\"a\":[1],\"a\":2}") << QByteArray("\xEF\xBB\xBF{\"a\":2}");
     }
     void withoutRepeatedKeys()
     {
         QFETCH(QByteArray, text);
         QFETCH(QByteArray, expected);
         QCOMPARE(JsonText::withoutRepeatedKeys(text), expected);
-        // The document (or the error) is what Qt makes of the text without repeats (Qt's own parse of
-        // a text with repeated containers would leak, which the sanitizer run reports).
+        // The document is what Qt makes of the text without repeats (Qt's own parse of a text with
+        // repeated containers would leak, which the sanitizer run reports); text Qt refuses is refused.
         QJsonParseError ours;
         QJsonParseError qts;
-        QCOMPARE(JsonText::parse(text, &ours), QJsonDocument::fromJson(expected, &qts));
-        QCOMPARE(ours.error, qts.error);
+        const QJsonDocument qtsDocument = QJsonDocument::fromJson(expected, &qts);
+        QCOMPARE(JsonText::parse(text, &ours), qtsDocument);
+        QCOMPARE(ours.error == QJsonParseError::NoError, qts.error == QJsonParseError::NoError);
+    }
+
+    // Broken text never reaches Qt; the error says what kind of break and where reading stopped.
+    void refusedText_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("error");
+        QTest::addColumn<int>("offset");
+        QTest::newRow("cut short") << QByteArray("{\"a\":[1,") << int(QJsonParseError::IllegalValue) << 8;
+        QTest::newRow("garbage after") << QByteArray("{\"a\":1} x") << int(QJsonParseError::GarbageAtEnd) << 8;
+        QTest::newRow("missing colon") << QByteArray("{\"a\" 1}") << int(QJsonParseError::IllegalValue) << 5;
+        QTest::newRow("too deep") << QByteArray(1100, '[') + QByteArray(1100, ']') << int(QJsonParseError::DeepNesting) << 1024;
+        QTest::newRow("bad unicode escape") << QByteArray("[\"\\u12x4\"]") << int(QJsonParseError::IllegalValue) << 7;
+        QTest::newRow("empty") << QByteArray() << int(QJsonParseError::IllegalValue) << 0;
+    }
+    void refusedText()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(int, error);
+        QFETCH(int, offset);
+        QJsonParseError ours;
+        QVERIFY(JsonText::parse(text, &ours).isNull());
+        QCOMPARE(int(ours.error), error);
+        QCOMPARE(ours.offset, offset);
+        QVERIFY(QJsonDocument::fromJson(text).isNull());
     }
 
     // Where Qt itself does not leak (repeated plain values), its own reading of the original text
