@@ -1,6 +1,7 @@
 // libFuzzer target: the agent's request handler, the connection wire mapping and the settings push.
 // The first byte picks the entry point; the rest is the frame text.
 #include "APIManager.h"
+#include "AssistanceTunnels.h"
 #include "ConnectionWire.h"
 #include "JsonText.h"
 #include "SettingsPush.h"
@@ -107,7 +108,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         break;
     }
     // What the shell's event loop would do between two frames: queued calls, finished processes,
-    // objects deleted later. Without it their memory piles up and looks like a leak.
+    // objects deleted later. Without it their memory piles up and looks like a leak. A simulated
+    // assistance tunnel ends on a timer this loop never runs: end it as the user would.
+    AssistanceTunnels::getInstance()->endAssistance();
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return 0;
