@@ -15,6 +15,15 @@ NetworkStatus::NetworkStatus(bool autoRefresh, QObject* parent) : QObject(parent
     refresh();
 }
 
+NetworkStatus::~NetworkStatus()
+{
+    if (m_process) {
+        disconnect(m_process.get(), nullptr, this, nullptr);
+        if (m_process->isRunning())
+            m_process->kill();
+    }
+}
+
 NetworkStatus::State NetworkStatus::parseDeviceStatus(const QByteArray& output)
 {
     const QStringList lines = QString::fromUtf8(output).split(QLatin1Char('\n'));
@@ -79,11 +88,31 @@ QString NetworkStatus::describe(const State& state)
 
 void NetworkStatus::refresh()
 {
-    const CommandResult result = CommandRunner::instance().run(QStringLiteral("nmcli"),
-                                                               {QStringLiteral("device"), QStringLiteral("status")});
-    const State state = parseDeviceStatus(result.standardOutput);
-    if (state == m_state)
-        return;
+    if (m_process && m_process->isRunning()) {
+        // Ten seconds without an answer: NetworkManager is stuck, which says nothing either way.
+        disconnect(m_process.get(), nullptr, this, nullptr);
+        m_process->kill();
+        take({});
+    }
+    m_process = CommandRunner::instance().createProcess();
+    RunningProcess* process = m_process.get();
+    connect(process, &RunningProcess::finished, this, [this, process](int) {
+        if (process == m_process.get())
+            take(process->readAllStandardOutput());
+    });
+    process->start(QStringLiteral("nmcli"), {QStringLiteral("device"), QStringLiteral("status")});
+    if (!process->waitForStarted(CommandRunner::kStartTimeoutMs) && !process->isRunning()) {
+        disconnect(process, nullptr, this, nullptr);
+        take({});
+    }
+}
+
+void NetworkStatus::take(const QByteArray& output)
+{
+    const State state = parseDeviceStatus(output);
+    const bool change = state != m_state;
     m_state = state;
-    emit changed();
+    if (change)
+        emit changed();
+    emit refreshed();
 }

@@ -5,6 +5,10 @@
 #include <QString>
 #include <QTimer>
 
+#include <memory>
+
+class RunningProcess;
+
 // Whether the terminal has a network, and which: shown at a glance on the main view, and asked
 // before a connection starts so that "no network" is said plainly instead of a client's exit code.
 class NetworkStatus : public QObject {
@@ -31,13 +35,16 @@ public:
     // Refreshes by itself every kRefreshMs when `autoRefresh` is true.
     explicit NetworkStatus(QObject* parent = nullptr) : NetworkStatus(true, parent) {}
     NetworkStatus(bool autoRefresh, QObject* parent);
+    ~NetworkStatus() override;
 
     // `nmcli device status` taken apart by its header's columns (names may hold blanks). A wired
     // link wins over Wi-Fi; a device only counts once it is "connected".
     static State parseDeviceStatus(const QByteArray& output);
     static QString describe(const State& state);
 
-    // Asks NetworkManager again; emits changed() only on a real change.
+    // Asks NetworkManager again without waiting for it (the main view must not stall on nmcli);
+    // refreshed() follows once the answer is in, changed() only on a real change. An nmcli still
+    // busy from the last refresh is given up.
     Q_INVOKABLE void refresh();
 
     int kind() const { return m_state.kind; }
@@ -49,8 +56,12 @@ public:
 
 signals:
     void changed();
+    void refreshed();
 
 private:
+    void take(const QByteArray& output);
+
     State m_state;
     QTimer m_timer;
+    std::unique_ptr<RunningProcess> m_process;
 };

@@ -118,7 +118,9 @@ private slots:
                 if (!step.command.isEmpty())
                     QCOMPARE(nmcli(step.command), 0);
                 const int before = changed.count();
+                QSignalSpy refreshed(&status, &NetworkStatus::refreshed);
                 status.refresh();
+                QVERIFY(refreshed.wait());
                 QCOMPARE(status.kind(), int(step.kind));
                 QCOMPARE(status.networkName(), step.name);
                 QCOMPARE(status.isOnline(), step.kind != NetworkStatus::NoNetwork);
@@ -134,13 +136,34 @@ private slots:
     {
         FakeCommandRunner fake;
         fake.answer("nmcli device status", "", 8, "Error: NetworkManager is not running.\n");
+        fake.finishOnStart = true;
         NetworkStatus status(false, nullptr);
+        QSignalSpy refreshed(&status, &NetworkStatus::refreshed);
         status.refresh();
+        QVERIFY(refreshed.wait());
         QCOMPARE(fake.commandLines(), (QList<QStringList>{{"nmcli", "device", "status"}}));
         QVERIFY(!status.isOnline());
         // Nothing is known: starting a connection is not held back on a guess.
         QVERIFY(!status.isOffline());
         QCOMPARE(status.text(), NetworkStatus::describe({}));
+    }
+
+    // An nmcli that never answers holds nothing up: the next refresh gives it up and claims nothing.
+    void stuckNmcliIsGivenUp()
+    {
+        FakeCommandRunner fake;
+        fake.answer("nmcli device status", "DEVICE  TYPE      STATE      CONNECTION\neth0    ethernet  connected  Wired\n");
+        NetworkStatus status(false, nullptr);
+        QSignalSpy refreshed(&status, &NetworkStatus::refreshed);
+        status.refresh();
+        QCOMPARE(refreshed.count(), 0);
+        status.refresh();
+        QCOMPARE(refreshed.count(), 1);
+        QVERIFY(!status.isOnline() && !status.isOffline());
+        QCOMPARE(fake.commandLines().size(), 2);
+        fake.finishAll();
+        QCOMPARE(refreshed.count(), 2);
+        QCOMPARE(status.kind(), int(NetworkStatus::Wired));
     }
 };
 
