@@ -246,6 +246,7 @@ ApplicationWindow {
         id: mainView
         anchors.fill: parent
         visible: window.currentView === "main"
+        reservedBottom: assistanceBanner.visible ? assistanceBanner.height + Theme.spacingS : 0
         connectionsModel: window.tilesModel
         connectionTile: Component {
             ConnectionTile {
@@ -338,6 +339,8 @@ ApplicationWindow {
 
     Toast {
         id: toast
+        // Above the assistance banner while it shows, never over it.
+        bottomOffset: assistanceBanner.visible ? assistanceBanner.height + Theme.spacingS : 0
     }
 
     TeamsPopup {
@@ -358,6 +361,7 @@ ApplicationWindow {
     }
 
     AssistanceBanner {
+        id: assistanceBanner
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 56

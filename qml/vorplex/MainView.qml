@@ -10,6 +10,8 @@ Rectangle {
     // Connection tiles: set a model and a tile component; the empty state shows while the grid has no items.
     property var connectionsModel: null
     property Component connectionTile: null
+    // Height kept free above the footer for what the window shows over it (the assistance banner).
+    property real reservedBottom: 0
 
     property date now: new Date()
 
@@ -223,7 +225,7 @@ Rectangle {
         id: helpBanner
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: footer.top
-        anchors.bottomMargin: Theme.spacingL
+        anchors.bottomMargin: Theme.spacingL + root.reservedBottom
         visible: root.helpAnswered
         width: Math.min(parent.width - 2 * Theme.spacingXxl, helpRow.implicitWidth + 2 * Theme.spacingL)
         height: helpRow.implicitHeight + 2 * Theme.spacingM

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QQmlEngine>
 #include <QSettings>
 #include <QtConcurrent>
@@ -163,6 +164,7 @@ bool LanguageBackend::updateLanguage(int index)
     }
     QCoreApplication::removeTranslator(&m_translator);
     QCoreApplication::removeTranslator(&m_qtTranslator);
+    QLocale::setDefault(QLocale(code)); // dates and numbers follow the texts' language
     if (directory.isNull()) {
         m_translator.load(QString()); // empties it
         qInfo() << "No" << fileName << "- showing the source texts";

@@ -1,5 +1,9 @@
+#include "AssistanceTunnels.h"
+#include "CommandRunner.h"
+#include "FakeCommandRunner.h"
 #include "LanguageBackend.h"
 #include "QmlRegistration.h"
+#include "SimulatedNetwork.h"
 #include "TestSandbox.h"
 
 #include <QDir>
@@ -138,6 +142,34 @@ QStringList inspect(QQuickWindow* window)
     return problems;
 }
 
+// Keeps a screenshot of what the window shows and notes every problem seen on it.
+void look(QQuickWindow* window, const QString& shots, const QString& name, QStringList& failures)
+{
+    QImage image = window->grabWindow();
+    // The software renderer cannot always read back its own frame; the platform still has it.
+    if (image.isNull() && window->screen())
+        image = window->screen()->grabWindow(window->winId()).toImage();
+    QString file = name;
+    file.replace(QLatin1Char('/'), QLatin1Char('_'));
+    if (image.isNull() || !image.save(shots + QLatin1Char('/') + file + QStringLiteral(".png")))
+        failures << name + QStringLiteral(": no screenshot");
+    for (const QString& problem : inspect(window) + g_warnings)
+        failures << name + QStringLiteral(": ") + problem;
+    g_warnings.clear();
+}
+
+// Asks the main view's network badge to read the network again; true once it shows `kind`.
+bool refreshNetworkStatus(QQuickWindow* window, int kind)
+{
+    QObject* status = nullptr;
+    for (QObject* object : window->findChildren<QObject*>())
+        if (object->inherits("NetworkStatus"))
+            status = object;
+    if (!status || !QMetaObject::invokeMethod(status, "refresh"))
+        return false;
+    return QTest::qWaitFor([&] { return status->property("kind").toInt() == kind; }, 3000);
+}
+
 // Closes whatever popups a page left open, so the next page is seen on its own.
 void closePopups(QQuickWindow* window)
 {
@@ -208,18 +240,28 @@ private slots:
             QVERIFY(QMetaObject::invokeMethod(window, "openPage", Q_ARG(QVariant, page)));
             QTest::qWait(150);
             QCoreApplication::processEvents();
-            QImage image = window->grabWindow();
-            // The software renderer cannot always read back its own frame; the platform still has it.
-            if (image.isNull() && window->screen())
-                image = window->screen()->grabWindow(window->winId()).toImage();
-            QString file = page;
-            file.replace(QLatin1Char('/'), QLatin1Char('_'));
-            if (image.isNull() || !image.save(shots + QLatin1Char('/') + file + QStringLiteral(".png")))
-                failures << page + QStringLiteral(": no screenshot");
-            for (const QString& problem : inspect(window) + g_warnings)
-                failures << page + QStringLiteral(": ") + problem;
+            look(window, shots, page, failures);
             closePopups(window);
             QTest::qWait(50);
+        }
+        // The main view's states that the pages above do not show: the network badge on Wi-Fi and
+        // without a network, and the banner of a running assistance tunnel.
+        QVERIFY(QMetaObject::invokeMethod(window, "openPage", Q_ARG(QVariant, QStringLiteral("main"))));
+        const auto restoreNetwork = qScopeGuard([] { SimulatedNetwork::reset(); });
+        auto nmcli = [](const QStringList& args) { return CommandRunner::instance().run("sudo", QStringList("nmcli") + args).exitCode; };
+        QCOMPARE(nmcli({"con", "down", "Wired connection 1"}), 0);
+        QVERIFY(refreshNetworkStatus(window, 2));
+        look(window, shots, QStringLiteral("main-wifi"), failures);
+        QCOMPARE(nmcli({"radio", "wifi", "off"}), 0);
+        QVERIFY(refreshNetworkStatus(window, 0));
+        look(window, shots, QStringLiteral("main-no-network"), failures);
+        {
+            FakeCommandRunner tunnels; // a tunnel that runs until it is told to end
+            QVERIFY(AssistanceTunnels::getInstance()->start("/opt/norbix/tools/tunnel", {"--token", "t"}));
+            QTest::qWait(50);
+            look(window, shots, QStringLiteral("main-assistance"), failures);
+            AssistanceTunnels::getInstance()->endAssistance();
+            QVERIFY(!AssistanceTunnels::getInstance()->isActive());
         }
         // Popups opened by a page stay until the next page; close everything before the engine goes.
         QVERIFY(QMetaObject::invokeMethod(window, "openPage", Q_ARG(QVariant, QStringLiteral("main"))));

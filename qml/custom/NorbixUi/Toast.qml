@@ -9,6 +9,8 @@ Popup {
     // "info", "success" or "error"
     property string kind: "info"
     property alias text: label.text
+    // Room kept free below the toast (for a banner that stays at the bottom of the window).
+    property real bottomOffset: 0
 
     function show(message, messageKind) {
         label.text = message;
@@ -19,7 +21,7 @@ Popup {
 
     parent: Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
-    y: parent ? parent.height - height - Theme.spacingXxl : 0
+    y: parent ? parent.height - height - Theme.spacingXxl - bottomOffset : 0
     width: parent ? Math.min(implicitWidth, Math.max(240, parent.width - 2 * Theme.spacingXxl)) : implicitWidth
     modal: false
     focus: false
