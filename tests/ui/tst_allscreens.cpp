@@ -20,7 +20,7 @@
 
 // Every screen, dialog and wizard step of the shell, in every language at both terminal sizes:
 // no QML warning, no text cut off or running out of its box, no control outside the window, and
-// every control that takes keyboard focus reachable with Tab. A screenshot of each is kept under
+// every control that takes keyboard focus reachable with Tab, every dialog left with Escape. A screenshot of each is kept under
 // <build>/screens/<language>-<size>/.
 namespace {
 
@@ -39,7 +39,7 @@ void collect(QtMsgType type, const QMessageLogContext& context, const QString& m
 QStringList pages()
 {
     QStringList list{"main", "settings", "lock", "add/rdp", "add/citrix", "add/vmware", "add/browser", "add/putty", "add/vnc",
-                     "rdp-login", "citrix-progress", "remote-request", "help-answered"};
+                     "rdp-login", "citrix-progress", "remote-request", "connection-check", "vnc-password", "help-answered"};
     // Every settings section the catalogue names.
     QFile catalog(QStringLiteral(":/vorplex/SectionCatalog.qml"));
     if (catalog.open(QIODevice::ReadOnly)) {
@@ -170,6 +170,34 @@ bool refreshNetworkStatus(QQuickWindow* window, int kind)
     return QTest::qWaitFor([&] { return status->property("kind").toInt() == kind; }, 3000);
 }
 
+// The top-most open popup that takes the keyboard (toasts do not), or none.
+QQuickItem* openDialog(QQuickWindow* window)
+{
+    QQuickItem* top = nullptr;
+    for (QQuickItem* child : window->contentItem()->childItems()) {
+        if (!inherits(child, "QQuickOverlay"))
+            continue;
+        for (QQuickItem* item : child->childItems())
+            if (item->isVisible() && inherits(item, "QQuickPopupItem") && item->parent()
+                && item->parent()->property("focus").toBool())
+                top = item;
+    }
+    return top;
+}
+
+// Escape leaves an open dialog: it cancels, or closes a dialog that only informs.
+QStringList escapeProblems(QQuickWindow* window)
+{
+    QQuickItem* dialog = openDialog(window);
+    if (!dialog)
+        return {};
+    QTest::keyClick(window, Qt::Key_Escape);
+    if (QTest::qWaitFor([&] { return !dialog->isVisible(); }, 1000))
+        return {};
+    const QString name = QString::fromLatin1(dialog->parent()->metaObject()->className()).section(QLatin1String("_QML"), 0, 0);
+    return {QStringLiteral("Escape does not leave the dialog: %1").arg(name)};
+}
+
 // Closes whatever popups a page left open, so the next page is seen on its own.
 void closePopups(QQuickWindow* window)
 {
@@ -241,6 +269,8 @@ private slots:
             QTest::qWait(150);
             QCoreApplication::processEvents();
             look(window, shots, page, failures);
+            for (const QString& problem : escapeProblems(window))
+                failures << page + QStringLiteral(": ") + problem;
             closePopups(window);
             QTest::qWait(50);
         }
@@ -262,6 +292,8 @@ private slots:
             look(window, shots, QStringLiteral("main-assistance"), failures);
             AssistanceTunnels::getInstance()->endAssistance();
             QVERIFY(!AssistanceTunnels::getInstance()->isActive());
+            // The ended tunnel's process object goes before the runner it came from.
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
         // Popups opened by a page stay until the next page; close everything before the engine goes.
         QVERIFY(QMetaObject::invokeMethod(window, "openPage", Q_ARG(QVariant, QStringLiteral("main"))));
