@@ -27,8 +27,11 @@ def environment(sandbox):
     env = dict(os.environ)
     env.update(NORBIX_SIMULATE="1", NORBIX_ROOT=os.path.join(sandbox, "root"), HOME=os.path.join(sandbox, "home"))
     env.pop("NORBIX_COMMAND_LOG", None)
-    os.makedirs(env["NORBIX_ROOT"], exist_ok=True)
     os.makedirs(env["HOME"], exist_ok=True)
+    # The everyday start: the first-run wizard was done long ago.
+    data = os.path.join(env["NORBIX_ROOT"], "data", "norbix")
+    os.makedirs(data, exist_ok=True)
+    open(os.path.join(data, "wizard_lock"), "w").close()
     return env
 
 

@@ -77,8 +77,8 @@ ApplicationWindow {
             showError(qsTr("This terminal has no network connection. Check the network cable or the Wi-Fi, then try again."));
             return;
         }
-        if (vncPassword.needsPrompt(index)) {
-            vncPassword.openFor(index);
+        if (vncPassword().needsPrompt(index)) {
+            vncPassword().openFor(index);
             return;
         }
         if (ConnectionManager.isConnectionFull(index)) {
@@ -88,7 +88,7 @@ ApplicationWindow {
         }
         var type = ConnectionManager.getConnectionType(index);
         if (type === kinds.rdp) {
-            rdpLogin.openFor(index);
+            rdpLogin().openFor(index);
             return;
         }
         var form = kinds.form(type);
@@ -96,7 +96,7 @@ ApplicationWindow {
             toast.show(qsTr("This connection is incomplete and can't be started. An administrator can complete it in Settings \u2192 Connections."), "error");
             return;
         }
-        formDialog.openForm(form, index);
+        formDialog().openForm(form, index);
     }
 
     function showWizard() {
@@ -106,9 +106,9 @@ ApplicationWindow {
     }
 
     function showError(text) {
-        errorDialog.message = text;
-        if (!errorDialog.opened)
-            errorDialog.open();
+        errorDialog().message = text;
+        if (!errorDialog().opened)
+            errorDialog().open();
     }
 
     function openPage(name) {
@@ -129,7 +129,7 @@ ApplicationWindow {
         }
         if (page === "rdp-login") {
             if (ConnectionManager.listConnectionNames().length > 0)
-                rdpLogin.openFor(0);
+                rdpLogin().openFor(0);
             return;
         }
         if (page === "citrix-progress") {
@@ -137,16 +137,16 @@ ApplicationWindow {
             return;
         }
         if (page === "remote-request") {
-            remotePopup.showPopup(0, 1, qsTr("Support desk"), qsTr("Alex from IT support would like to see your screen to help with your ticket."), 30, "", "");
+            remotePopup().showPopup(0, 1, qsTr("Support desk"), qsTr("Alex from IT support would like to see your screen to help with your ticket."), 30, "", "");
             return;
         }
         if (page === "connection-check") {
             if (ConnectionManager.listConnectionNames().length > 0)
-                connectionCheck.checkIndex(0, ConnectionManager.listConnectionNames()[0]);
+                connectionCheck().checkIndex(0, ConnectionManager.listConnectionNames()[0]);
             return;
         }
         if (page === "vnc-password") {
-            vncPassword.openFor(0);
+            vncPassword().openFor(0);
             return;
         }
         if (page === "help-answered") {
@@ -193,6 +193,20 @@ ApplicationWindow {
     color: Theme.background
     font.family: Theme.fontFamily
     font.pixelSize: Theme.fontBody
+
+    // Dialogs are made the first time they are needed: the first frame does not wait for them.
+    property var madeDialogs: ({})
+    function made(name, component) {
+        if (!madeDialogs[name])
+            madeDialogs[name] = component.createObject(window);
+        return madeDialogs[name];
+    }
+    function rdpLogin() { return made("rdpLogin", rdpLoginComponent); }
+    function formDialog() { return made("formDialog", formDialogComponent); }
+    function errorDialog() { return made("errorDialog", errorDialogComponent); }
+    function remotePopup() { return made("remotePopup", remotePopupComponent); }
+    function vncPassword() { return made("vncPassword", vncPasswordComponent); }
+    function connectionCheck() { return made("connectionCheck", connectionCheckComponent); }
 
     ConnectionKinds {
         id: kinds
@@ -260,7 +274,7 @@ ApplicationWindow {
                 address: record ? record.address : ""
                 autoConnect: record ? record.autoConnect : false
                 onClicked: window.activateConnection(index)
-                onCheckRequested: connectionCheck.checkIndex(index, name)
+                onCheckRequested: connectionCheck().checkIndex(index, name)
             }
         }
         onSettingsRequested: window.showSettings("")
@@ -287,10 +301,10 @@ ApplicationWindow {
         target: ConnectionManager
 
         function onOpenPasswordPopup(index) {
-            if (vncPassword.needsPrompt(index))
-                vncPassword.openFor(index);
+            if (vncPassword().needsPrompt(index))
+                vncPassword().openFor(index);
             else
-                rdpLogin.openFor(index);
+                rdpLogin().openFor(index);
         }
     }
 
@@ -298,7 +312,7 @@ ApplicationWindow {
         target: APIManager
 
         function onConnectionRequest(messageId, type, title, text, timeout, token, port) {
-            remotePopup.showPopup(messageId, type, title, text, timeout, token, port);
+            remotePopup().showPopup(messageId, type, title, text, timeout, token, port);
         }
         function onHelpNeeded() {
             mainView.helpAnswered = true;
@@ -315,14 +329,18 @@ ApplicationWindow {
         }
     }
 
-    RDPLoginDialog {
-        id: rdpLogin
-        onFailed: window.showError(qsTr("Failed to connect"))
+    Component {
+        id: rdpLoginComponent
+        RDPLoginDialog {
+            onFailed: window.showError(qsTr("Failed to connect"))
+        }
     }
 
-    ConnectionFormDialog {
-        id: formDialog
-        onSaved: toast.show(added ? qsTr("\u201c%1\u201d added.").arg(name) : qsTr("Changes to \u201c%1\u201d saved.").arg(name), "success")
+    Component {
+        id: formDialogComponent
+        ConnectionFormDialog {
+            onSaved: toast.show(added ? qsTr("\u201c%1\u201d added.").arg(name) : qsTr("Changes to \u201c%1\u201d saved.").arg(name), "success")
+        }
     }
 
     CitrixProgressPopup {
@@ -330,11 +348,13 @@ ApplicationWindow {
         mode: "launch"
     }
 
-    ModalDialog {
-        id: errorDialog
-        title: qsTr("Connection error")
-        showCancel: false
-        okText: qsTr("Close")
+    Component {
+        id: errorDialogComponent
+        ModalDialog {
+            title: qsTr("Connection error")
+            showCancel: false
+            okText: qsTr("Close")
+        }
     }
 
     Toast {
@@ -347,17 +367,21 @@ ApplicationWindow {
         id: teamsPopup
     }
 
-    AdminConnectionPopup {
-        id: remotePopup
+    Component {
+        id: remotePopupComponent
+        AdminConnectionPopup {}
     }
 
-    VNCPasswordDialog {
-        id: vncPassword
-        onFailed: window.showError(qsTr("Failed to connect"))
+    Component {
+        id: vncPasswordComponent
+        VNCPasswordDialog {
+            onFailed: window.showError(qsTr("Failed to connect"))
+        }
     }
 
-    ConnectionCheckDialog {
-        id: connectionCheck
+    Component {
+        id: connectionCheckComponent
+        ConnectionCheckDialog {}
     }
 
     AssistanceBanner {
