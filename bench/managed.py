@@ -14,11 +14,12 @@ import sys
 import tempfile
 import time
 
+from procstat import cpu_seconds, stop
+
 BUILD = os.path.abspath(sys.argv[1])
 TOP = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 ROUNDS = int(os.environ.get("BENCH_IDLE_ROUNDS", "2"))
 IDLE_SECONDS = float(os.environ.get("BENCH_IDLE_SECONDS", "20"))
-TICK = os.sysconf("SC_CLK_TCK")
 
 SHELL = os.path.join(BUILD, "src", "norbix-shell")
 FLOOR = os.path.join(BUILD, "bench", "bench_minimal_window")
@@ -51,12 +52,6 @@ class Peer:
         self.proc.wait()
 
 
-def cpu_seconds(pid):
-    with open(f"/proc/{pid}/stat") as stat:
-        fields = stat.read().rsplit(")", 1)[1].split()
-    return (int(fields[11]) + int(fields[12])) / TICK
-
-
 def idle_share(proc):
     before, t0 = cpu_seconds(proc.pid), time.monotonic()
     time.sleep(IDLE_SECONDS)
@@ -71,15 +66,6 @@ def run(program, sandbox, env):
         if "norbix: first frame" in line:
             return proc
     raise RuntimeError(f"{program} ended without a first frame")
-
-
-def stop(proc):
-    proc.terminate()
-    try:
-        proc.wait(5)
-    except subprocess.TimeoutExpired:
-        proc.kill()
-        proc.wait()
 
 
 def measure(program):

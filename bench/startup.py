@@ -13,11 +13,12 @@ import sys
 import tempfile
 import time
 
+from procstat import cpu_seconds, rss_kib, stop
+
 BUILD = sys.argv[1]
 ROUNDS = int(os.environ.get("BENCH_ROUNDS", "5"))
 IDLE_ROUNDS = int(os.environ.get("BENCH_IDLE_ROUNDS", "2"))
 IDLE_SECONDS = float(os.environ.get("BENCH_IDLE_SECONDS", "20"))
-TICK = os.sysconf("SC_CLK_TCK")
 
 SHELL = os.path.join(BUILD, "src", "norbix-shell")
 FLOOR = os.path.join(BUILD, "bench", "bench_minimal_window")
@@ -45,29 +46,6 @@ def start(program, sandbox):
         if "norbix: first frame" in line:
             return proc, (time.monotonic() - began) * 1000.0
     raise RuntimeError(f"{program} ended without a first frame")
-
-
-def rss_kib(pid):
-    with open(f"/proc/{pid}/status") as status:
-        for line in status:
-            if line.startswith("VmRSS:"):
-                return int(line.split()[1])
-    return 0
-
-
-def cpu_seconds(pid):
-    with open(f"/proc/{pid}/stat") as stat:
-        fields = stat.read().rsplit(")", 1)[1].split()
-    return (int(fields[11]) + int(fields[12])) / TICK
-
-
-def stop(proc):
-    proc.terminate()
-    try:
-        proc.wait(5)
-    except subprocess.TimeoutExpired:
-        proc.kill()
-        proc.wait()
 
 
 def measure(program, idle):
