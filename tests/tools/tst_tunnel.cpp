@@ -7,6 +7,7 @@
 #include <QTcpSocket>
 #include <QtTest>
 
+#include <poll.h>
 #include <sys/socket.h>
 #include <netinet/in.h>
 #include <unistd.h>
@@ -213,21 +214,40 @@ private slots:
         QVERIFY2(run.err.contains("cannot reach the local VNC server 127.0.0.1:"), qPrintable(run.err));
     }
 
-    // Megabytes both ways, each side ending with a half-close: every byte arrives, in order.
+    // Megabytes both ways, each side ending with a half-close: every byte arrives, in order, also
+    // when the server's side has ended long before the terminal's.
+    void largeTransferBothWays_data()
+    {
+        QTest::addColumn<bool>("screenAfterInput");
+        QTest::newRow("both at once") << false;
+        QTest::newRow("viewer ends first") << true;
+    }
     void largeTransferBothWays()
     {
+        QFETCH(bool, screenAfterInput);
         MgmtPeer peer;
         quint16 assistPort = 0;
         quint16 vncPort = 0;
         QVERIFY(startPeer(peer, "server", &assistPort, &vncPort));
-        QTcpServer localVnc;
-        QVERIFY(localVnc.listen(QHostAddress::LocalHost, 0));
+        // The terminal's VNC server on a plain socket: QTcpSocket cannot go on writing once it has
+        // read the other side's end, and that is one of the cases here.
+        const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t length = sizeof address;
+        QCOMPARE(::bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+        QCOMPARE(::listen(listener, 1), 0);
+        QCOMPARE(::getsockname(listener, reinterpret_cast<sockaddr*>(&address), &length), 0);
         QVERIFY(expectToken(peer, "bulk"));
         QProcess tunnel;
         tunnel.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        tunnel.start(QStringLiteral(NORBIX_TUNNEL_BINARY), toPeer(assistPort, "bulk", localVnc.serverPort()));
-        QVERIFY(localVnc.waitForNewConnection(20000));
-        QTcpSocket* terminalSide = localVnc.nextPendingConnection();
+        tunnel.start(QStringLiteral(NORBIX_TUNNEL_BINARY), toPeer(assistPort, "bulk", ntohs(address.sin_port)));
+        pollfd waiting{listener, POLLIN, 0};
+        QCOMPARE(::poll(&waiting, 1, 20000), 1);
+        const int terminalSide = ::accept4(listener, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC);
+        ::close(listener);
+        QVERIFY(terminalSide >= 0);
         QTcpSocket viewer;
         viewer.connectToHost(QHostAddress::LocalHost, vncPort);
         QVERIFY(viewer.waitForConnected(10000));
@@ -239,24 +259,31 @@ private slots:
         };
         const QByteArray screen = randomBytes(5 * 1024 * 1024); // terminal -> viewer
         const QByteArray input = randomBytes(3 * 1024 * 1024);  // viewer -> terminal
-        terminalSide->write(screen);
         viewer.write(input);
         QByteArray atViewer, atTerminal;
-        bool terminalShut = false, viewerShut = false;
+        int screenSent = 0;
+        bool terminalEnded = false, terminalShut = false, viewerShut = false;
         const bool done = QTest::qWaitFor([&] {
             atViewer += viewer.readAll();
-            atTerminal += terminalSide->readAll();
-            if (!terminalShut && terminalSide->bytesToWrite() == 0) {
-                terminalShut = ::shutdown(int(terminalSide->socketDescriptor()), SHUT_WR) == 0;
+            char buffer[65536];
+            ssize_t n = 0;
+            while (!terminalEnded && (n = ::recv(terminalSide, buffer, sizeof buffer, 0)) != -1) {
+                atTerminal.append(buffer, int(n));
+                terminalEnded = n == 0;
             }
-            if (!viewerShut && viewer.bytesToWrite() == 0) {
+            // Either at once, or only once the viewer's input and its end have all arrived.
+            if ((!screenAfterInput || terminalEnded) && screenSent < screen.size()) {
+                n = ::send(terminalSide, screen.constData() + screenSent, size_t(screen.size() - screenSent), MSG_NOSIGNAL);
+                screenSent += n > 0 ? int(n) : 0;
+            }
+            if (screenSent == screen.size() && !terminalShut)
+                terminalShut = ::shutdown(terminalSide, SHUT_WR) == 0;
+            if (!viewerShut && viewer.bytesToWrite() == 0)
                 viewerShut = ::shutdown(int(viewer.socketDescriptor()), SHUT_WR) == 0;
-            }
-            return tunnel.state() == QProcess::NotRunning && viewer.state() == QAbstractSocket::UnconnectedState
-                && terminalSide->state() == QAbstractSocket::UnconnectedState;
+            return tunnel.state() == QProcess::NotRunning && viewer.state() == QAbstractSocket::UnconnectedState && terminalEnded;
         }, 60000);
         atViewer += viewer.readAll();
-        atTerminal += terminalSide->readAll();
+        ::close(terminalSide);
         QVERIFY2(done, qPrintable(QStringLiteral("viewer has %1 of %2, terminal %3 of %4")
                                       .arg(atViewer.size()).arg(screen.size()).arg(atTerminal.size()).arg(input.size())));
         QCOMPARE(tunnel.exitCode(), int(Relayed));

@@ -226,15 +226,6 @@ private:
                     say("the server ended the session");
                     m_serverEnded = true;
                     *progress = true;
-                } else if (error == SSL_ERROR_SYSCALL && errno == 0) {
-                    say("the server closed the connection without ending TLS");
-                    m_serverEnded = true;
-                    *progress = true;
-                } else if (error == SSL_ERROR_SSL && ERR_GET_REASON(ERR_peek_error()) == SSL_R_UNEXPECTED_EOF_WHILE_READING) {
-                    ERR_clear_error();
-                    say("the server closed the connection without ending TLS");
-                    m_serverEnded = true;
-                    *progress = true;
                 } else {
                     say("relay failed: reading from the server: %s",
                         error == SSL_ERROR_SYSCALL ? std::strerror(errno) : sslErrors().c_str());
@@ -353,6 +344,9 @@ ExitCode runTunnel(const Options& options)
     SSL_CTX_set_min_proto_version(context.ctx, TLS1_2_VERSION);
     SSL_CTX_set_verify(context.ctx, SSL_VERIFY_PEER, nullptr);
     SSL_CTX_set_mode(context.ctx, SSL_MODE_ENABLE_PARTIAL_WRITE | SSL_MODE_ACCEPT_MOVING_WRITE_BUFFER);
+    // A server that ends its side with a plain TCP half-close (no close_notify) has ended its
+    // direction, not the session: without this OpenSSL fails every later write.
+    SSL_CTX_set_options(context.ctx, SSL_OP_IGNORE_UNEXPECTED_EOF);
     if (!options.caFile.empty()) {
         if (SSL_CTX_load_verify_locations(context.ctx, options.caFile.c_str(), nullptr) != 1) {
             say("cannot read CA certificates from %s: %s", options.caFile.c_str(), sslErrors().c_str());
