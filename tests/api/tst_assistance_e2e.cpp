@@ -105,15 +105,18 @@ private slots:
         QVERIFY(shell.waitForStarted());
 
         QVERIFY(!peer.waitFor("CONNECTED", 60000).isEmpty());
+        // The session is up once the terminal has identified itself and asked for its settings.
+        QVERIFY(!peer.waitFor("RECV {\"action\":\"getSettings\"", 60000).isEmpty());
         peer.send("assist");
         const QString request = peer.waitFor("SENT {\"action\": \"remote\"");
         QVERIFY(!request.isEmpty());
         const QString token = QJsonDocument::fromJson(request.mid(5).toUtf8()).object().value("data").toObject().value("token").toString();
         QCOMPARE(token.size(), 32);
         QJsonObject answer;
-        QVERIFY(QTest::qWaitFor([&] { answer = peer.received(1000); return answer.value("action") == "remote"; }, 30000));
+        QVERIFY2(QTest::qWaitFor([&] { answer = peer.received(1000); return answer.value("action") == "remote"; }, 30000),
+                 qPrintable(shellLog(sandbox).right(3000)));
         QCOMPARE(answer.value("data").toObject().value("status").toString(), QStringLiteral("ok"));
-        QCOMPARE(peer.waitFor("TUNNEL-ACCEPTED ", 30000), "TUNNEL-ACCEPTED " + token);
+        QVERIFY2(peer.waitFor("TUNNEL-ACCEPTED ", 30000) == "TUNNEL-ACCEPTED " + token, qPrintable(shellLog(sandbox).right(3000)));
 
         // A VNC client at the peer's local port.
         const QString framePath = sandbox.home() + "/seen.ppm";
@@ -140,7 +143,7 @@ private slots:
                                             .arg(seen.pixel(firstWrong), 0, 16).arg(shown.pixel(firstWrong), 0, 16)));
 
         // The viewer left: the session ends on both sides and the tunnel with it, as an ordinary end.
-        QVERIFY(!peer.waitFor("SPLICE-ENDED", 30000).isEmpty());
+        QVERIFY2(!peer.waitFor("SPLICE-ENDED", 30000).isEmpty(), qPrintable(peer.linesStartingWith("SPLICE").join('\n')));
         QString log;
         QVERIFY2(QTest::qWaitFor([&] { return (log = shellLog(sandbox)).contains("Remote assistance tunnel ended with exit code"); }, 30000),
                  qPrintable(log.right(3000)));
