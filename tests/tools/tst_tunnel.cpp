@@ -111,7 +111,6 @@ private slots:
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<QString>("said");
         QTest::newRow("nothing listening") << "none" << int(Unreachable) << "cannot reach server";
-        QTest::newRow("name not resolved") << "unresolved" << int(Unreachable) << "cannot resolve";
         QTest::newRow("connection never accepted") << "backlog" << int(TimedOut) << "did not answer";
         QTest::newRow("no TLS handshake") << "tcp" << int(TimedOut) << "did not finish the TLS handshake";
         QTest::newRow("TLS, then no answer to the token") << "tls" << int(TimedOut) << "did not answer the token";
@@ -126,9 +125,7 @@ private slots:
         QProcess tls;
         int queueFull = -1;
         int queued = -1;
-        if (server == "unresolved") {
-            address = QStringLiteral("mgmt.invalid:443");
-        } else if (server == "tcp") {
+        if (server == "tcp") {
             QVERIFY(tcp.listen(QHostAddress::LocalHost, 0));
             address = QStringLiteral("127.0.0.1:%1").arg(tcp.serverPort());
         } else if (server == "backlog") {
