@@ -652,8 +652,14 @@ QString APIManager::tunnelHost(const QString& url)
 
 QStringList APIManager::tunnelArguments(const QString& host, const QString& port, const QString& token)
 {
-    return {QStringLiteral("--src"), host + QLatin1Char(':') + port, QStringLiteral("--dst"), QLatin1String(kLocalVncServer),
+    return {QStringLiteral("--src"), host + QLatin1Char(':') + port, QStringLiteral("--dst"), localVncServer(),
             QStringLiteral("--token"), token};
+}
+
+QString APIManager::localVncServer()
+{
+    const QString configured = qEnvironmentVariable("NORBIX_ASSIST_VNC");
+    return configured.isEmpty() ? QLatin1String(kLocalVncServer) : configured;
 }
 
 void APIManager::openTunnel(const QString& token, const QString& port)
@@ -662,7 +668,7 @@ void APIManager::openTunnel(const QString& token, const QString& port)
     // Watched, so that the screens can show that assistance runs and let the user end it.
     AssistanceTunnels::getInstance()->start(QLatin1String(kTunnelProgram), tunnelArguments(host, port, token));
     qDebug().noquote() << QLatin1String(kTunnelProgram) + QStringLiteral(" --src ") + host + QLatin1Char(':') + port
-            + QStringLiteral(" --dst ") + QLatin1String(kLocalVncServer) + QStringLiteral(" --token ") + token;
+            + QStringLiteral(" --dst ") + localVncServer() + QStringLiteral(" --token ") + token;
     qInfo() << "Remote connection accepted";
 }
 

@@ -102,6 +102,9 @@ public:
     // The server's host name out of the session URL: scheme, port and path dropped.
     static QString tunnelHost(const QString& url);
     static QStringList tunnelArguments(const QString& host, const QString& port, const QString& token);
+    // The VNC server a tunnel carries: kLocalVncServer, or NORBIX_ASSIST_VNC=HOST:PORT (tests and
+    // the simulated terminal, where port 5900 may be taken).
+    static QString localVncServer();
 
 signals:
     void requestSettingsUpdate(bool shouldEmit);

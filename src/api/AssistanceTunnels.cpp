@@ -51,8 +51,11 @@ void AssistanceTunnels::onFinished(RunningProcess* process, int exitCode)
 {
     if (!m_running.removeOne(process))
         return;
+    // What the tunnel said about its end (server refused, unreachable, ...) goes to the log.
+    const QByteArray said = process->readAllStandardError().trimmed();
+    if (!said.isEmpty())
+        qInfo().noquote() << "Remote assistance tunnel:" << QString::fromUtf8(said.right(4000));
     qInfo().noquote() << "Remote assistance tunnel ended with exit code" << exitCode;
-    process->readAllStandardError();
     // Deleted later: this runs inside the process object's own signal.
     process->deleteLater();
     emit activeChanged();

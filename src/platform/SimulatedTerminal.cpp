@@ -10,10 +10,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMutex>
 #include <QMutexLocker>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QTcpSocket>
 #include <QTimer>
@@ -109,32 +111,76 @@ std::optional<SimulatedTerminal::Answer> portScan(const QString& program, const 
     return answer;
 }
 
+// The remote-assistance tunnel runs for real when the sandbox holds a build of it at
+// <NORBIX_ROOT>/opt/norbix/tools/tunnel: assistance can then be tried end to end in the simulated
+// terminal. Only the program's location is taken under the root; its arguments stay as they are.
+QString sandboxedTunnel(const QString& program)
+{
+    if (SystemPaths::root().isEmpty() || program != QLatin1String("/opt/norbix/tools/tunnel"))
+        return {};
+    const QFileInfo built(SystemPaths::resolve(program));
+    return built.isFile() && built.isExecutable() ? built.filePath() : QString();
+}
+
 class SimulatedProcess : public RunningProcess {
 public:
     explicit SimulatedProcess(const SimulatedTerminal& terminal) : m_terminal(terminal) {}
 
     void doStart(const QString& program, const QStringList& arguments) override
     {
+        const QString real = sandboxedTunnel(program);
+        if (!real.isEmpty()) {
+            // Already in the command log under its terminal path, as every command is.
+            m_real = std::make_unique<QProcess>();
+            connect(m_real.get(), &QProcess::readyReadStandardOutput, this, &RunningProcess::readyReadStandardOutput);
+            connect(m_real.get(), qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+                    [this](int code, QProcess::ExitStatus) { emit finished(code); });
+            m_real->start(real, arguments);
+            return;
+        }
+        m_real.reset();
         m_answer = m_terminal.answer(program, arguments);
         m_done = false;
         m_running = m_answer.result.started;
         if (m_running)
             QTimer::singleShot(m_answer.delayMs, this, [this] { finish(); });
     }
-    bool waitForStarted(int) override { return m_answer.result.started; }
-    bool waitForFinished(int) override
+    bool waitForStarted(int msecs) override { return m_real ? m_real->waitForStarted(msecs) : m_answer.result.started; }
+    bool waitForFinished(int msecs) override
     {
+        if (m_real)
+            return m_real->waitForFinished(msecs);
         const bool wasRunning = m_running;
         finish();
         return wasRunning;
     }
-    bool isRunning() const override { return m_running; }
-    int exitCode() const override { return m_done ? m_answer.result.exitCode : 0; }
-    QByteArray readAllStandardOutput() override { return m_done ? std::exchange(m_answer.result.standardOutput, {}) : QByteArray(); }
-    QByteArray readAllStandardError() override { return m_done ? std::exchange(m_answer.result.standardError, {}) : QByteArray(); }
-    void terminate() override { kill(); }
+    bool isRunning() const override { return m_real ? m_real->state() != QProcess::NotRunning : m_running; }
+    int exitCode() const override { return m_real ? m_real->exitCode() : m_done ? m_answer.result.exitCode : 0; }
+    QByteArray readAllStandardOutput() override
+    {
+        if (m_real)
+            return m_real->readAllStandardOutput();
+        return m_done ? std::exchange(m_answer.result.standardOutput, {}) : QByteArray();
+    }
+    QByteArray readAllStandardError() override
+    {
+        if (m_real)
+            return m_real->readAllStandardError();
+        return m_done ? std::exchange(m_answer.result.standardError, {}) : QByteArray();
+    }
+    void terminate() override
+    {
+        if (m_real)
+            m_real->terminate();
+        else
+            kill();
+    }
     void kill() override
     {
+        if (m_real) {
+            m_real->kill();
+            return;
+        }
         if (!m_running)
             return;
         m_answer.result.exitCode = 15;
@@ -155,6 +201,7 @@ private:
     }
 
     const SimulatedTerminal& m_terminal;
+    std::unique_ptr<QProcess> m_real; // the tunnel, when it is let through to run for real
     SimulatedTerminal::Answer m_answer;
     bool m_running = false;
     bool m_done = false;
