@@ -39,13 +39,25 @@ def read_xwd(path):
     return width, height, pixels
 
 
-def main():
-    width, height, pixels = read_xwd(sys.argv[1])
+def judge(pixels):
+    """(is it the main view, background share, number of colours)"""
+    if not pixels:
+        return False, 0.0, 0
     near = sum(1 for p in pixels if all(abs(a - b) <= 3 for a, b in zip(p, BACKGROUND)))
     share = near / len(pixels)
     colours = len(set(pixels))
+    return share >= MIN_BACKGROUND_SHARE and colours >= MIN_COLOURS, share, colours
+
+
+def main():
+    try:
+        width, height, pixels = read_xwd(sys.argv[1])
+    except (OSError, ValueError, struct.error) as error:
+        print(f"  unreadable screenshot: {error}")
+        return 2
+    ok, share, colours = judge(pixels)
     print(f"  screen {width}x{height}: background share {share:.2f}, {colours} colours")
-    return 0 if share >= MIN_BACKGROUND_SHARE and colours >= MIN_COLOURS else 1
+    return 0 if ok else 1
 
 
 if __name__ == "__main__":
