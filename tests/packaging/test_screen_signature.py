@@ -61,9 +61,9 @@ class ReadXwd(unittest.TestCase):
 class Judge(unittest.TestCase):
     def test_signatures(self):
         table = [
-            ("main view", screen(0.5), True),
-            ("just enough background", screen(0.31), True),
-            ("too little background", screen(0.25), False),
+            ("main view", screen(0.76), True),
+            ("just enough background", screen(0.51), True),
+            ("the first-run wizard's share", screen(0.33), False),
             ("background only (shell drew nothing)", screen(1.0, colours=1), False),
             ("black root window", [(0, 0, 0)] * 800, False),
             ("openbox grey", [(0x4C, 0x59, 0x66)] * 800, False),
@@ -76,7 +76,7 @@ class Judge(unittest.TestCase):
                 self.assertEqual(screen_signature.judge(pixels)[0], expected)
 
     def test_exit_status(self):
-        for pixels, status in ((screen(0.5), 0), ([(0, 0, 0)] * 800, 1)):
+        for pixels, status in ((screen(0.76), 0), ([(0, 0, 0)] * 800, 1)):
             with tempfile.NamedTemporaryFile(suffix=".xwd") as f:
                 f.write(xwd(40, 20, pixels))
                 f.flush()
