@@ -18,6 +18,7 @@ NORBIX_PACKAGES=(
     x11-xkb-utils xkb-data xinput openbox feh libx11-dev usbutils
     pulseaudio pulseaudio-utils alsa-utils libasound2-plugins cups cups-daemon cups-client cups-ipp-utils dbus
     qml-module-qtquick-virtualkeyboard qtvirtualkeyboard-plugin qml-module-qt-labs-folderlistmodel
+    sudo lshw debootstrap x11-apps x11-utils xdotool
 )
 
 # The peers and tools scripts/bench compares the VNC viewer with.

@@ -16,6 +16,7 @@ class tst_Session : public QObject {
 
     FakeCommandRunner m_runner; // the tunnel and reboots must not run for real
     TestSandbox* m_sandbox = nullptr;
+    QByteArray m_outerCommandLog;
     MgmtPeer m_peer;
     APIManager* api() { return APIManager::getInstance(); }
 
@@ -41,6 +42,7 @@ private slots:
         if (!MgmtPeer::available())
             QSKIP("python3-websockets is not installed (scripts/test installs it)");
         m_sandbox = new TestSandbox;
+        m_outerCommandLog = qgetenv("NORBIX_COMMAND_LOG");
         qputenv("NORBIX_COMMAND_LOG", m_sandbox->dataFile("commands.jsonl").toUtf8());
         QVERIFY(m_peer.start());
         AgentHarness::setManaged(*m_sandbox, false, m_peer.url());
@@ -50,7 +52,14 @@ private slots:
     void cleanupTestCase()
     {
         m_peer.stop();
+        // The suite's log (ctest's NORBIX_COMMAND_LOG) gets this test's commands too.
         qunsetenv("NORBIX_COMMAND_LOG");
+        if (!m_outerCommandLog.isEmpty()) {
+            QFile outer(QString::fromLocal8Bit(m_outerCommandLog));
+            if (outer.open(QIODevice::WriteOnly | QIODevice::Append))
+                outer.write(TestSandbox::readFile(m_sandbox->dataFile("commands.jsonl")));
+            qputenv("NORBIX_COMMAND_LOG", m_outerCommandLog);
+        }
         delete m_sandbox;
     }
 

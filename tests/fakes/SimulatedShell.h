@@ -32,6 +32,18 @@ struct SimulatedShell {
         shell.environment.remove(QStringLiteral("DISPLAY"));
     }
 
+    // The test's own command log (NORBIX_COMMAND_LOG from ctest) gets the shell's commands too:
+    // the sudoers check reads every command the suite saw.
+    ~SimulatedShell()
+    {
+        const QString outer = qEnvironmentVariable("NORBIX_COMMAND_LOG");
+        if (outer.isEmpty() || outer == commandLog())
+            return;
+        QFile file(outer);
+        if (file.open(QIODevice::WriteOnly | QIODevice::Append))
+            file.write(TestSandbox::readFile(commandLog()));
+    }
+
     QString commandLog() const { return sandbox.home() + QStringLiteral("/commands.jsonl"); }
     QString screenshot() const { return sandbox.home() + QStringLiteral("/shot.png"); }
 

@@ -58,6 +58,7 @@ private slots:
     {
         QTemporaryDir dir;
         const QString log = dir.filePath(QStringLiteral("commands.jsonl"));
+        const QByteArray outerLog = qgetenv("NORBIX_COMMAND_LOG");
         qputenv("NORBIX_COMMAND_LOG", log.toUtf8());
         {
             FakeCommandRunner fake;
@@ -71,7 +72,7 @@ private slots:
             QCOMPARE(fake.calls.at(1).commandLine(),
                      QStringList({"sudo", "cp", "-r", "/home/user/my logs", "/media/usb/"}));
         }
-        qunsetenv("NORBIX_COMMAND_LOG");
+        qputenv("NORBIX_COMMAND_LOG", outerLog);
 
         const QList<QJsonObject> lines = readLog(log);
         QCOMPARE(lines.size(), 5);

@@ -619,6 +619,7 @@ private slots:
     void busCallsAreLogged()
     {
         const QString log = m_sandbox->home() + "/commands.jsonl";
+        const QByteArray outerLog = qgetenv("NORBIX_COMMAND_LOG");
         qputenv("NORBIX_COMMAND_LOG", log.toUtf8());
         FakeConnection connection;
         NetworkManager manager;
@@ -626,7 +627,7 @@ private slots:
         manager.setEap("tls");
         manager.setCert("ca-cert", true, "/media/ca.pem");
         manager.apply8021x();
-        qunsetenv("NORBIX_COMMAND_LOG");
+        qputenv("NORBIX_COMMAND_LOG", outerLog);
         const QList<QByteArray> lines = TestSandbox::readFile(log).trimmed().split('\n');
         QCOMPARE(lines.size(), 3);
         const QJsonObject update = QJsonDocument::fromJson(lines.at(1)).object();
