@@ -15,6 +15,9 @@ Item {
 
     signal homeRequested()
 
+    // Escape leaves the settings when nothing inside (an open form, a dialog) takes it first.
+    Keys.onEscapePressed: root.homeRequested()
+
     function hasSection(id) {
         return catalog.find(id) !== null;
     }
