@@ -262,8 +262,9 @@ private slots:
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(window));
 
-        // With the on-screen keyboard as input method Escape never reaches the dialogs (to be
-        // looked into); the keyboard run (ui-all-screens-keyboard) checks Escape without it.
+        // This run names the on-screen keyboard as input method without switching the keyboard on,
+        // which the shell never does: the keyboard then opens a window of its own that takes the
+        // focus. Escape is checked in the keyboard run (ui-all-screens-keyboard) instead.
         const bool onScreenKeyboard = qgetenv("QT_IM_MODULE") == "qtvirtualkeyboard";
         QStringList failures;
         for (const QString& page : pages()) {
