@@ -9,12 +9,19 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QGuiApplication>
+#include <QJsonObject>
 #include <QScreen>
 #include <QThread>
 
 #include <rfb/rfbclient.h>
 
 #include <cstring>
+
+#include <linux/sockios.h>
+#include <linux/tcp.h> // tcp_info with the received byte count
+#include <netinet/in.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
 
 VNCConnector* VNCConnector::m_instance = nullptr;
 QByteArray VNCConnector::m_password;
@@ -74,6 +81,7 @@ void VNCConnector::gotFrameBufferUpdate(rfbClient*, int x, int y, int w, int h)
 void VNCConnector::finishedFrameBufferUpdate(rfbClient* client)
 {
     VNCConnector* self = getInstance();
+    self->followLink(self->m_clock.nsecsElapsed() / 1000);
     if (self->m_damage.isEmpty())
         return;
     // The library writes into m_image: hand it on as it is (shared, not copied). Between server
@@ -87,6 +95,60 @@ void VNCConnector::finishedFrameBufferUpdate(rfbClient* client)
     }
     self->emitImageReady(frame);
     self->m_damage = QRect();
+}
+
+qint64 VNCConnector::bytesTaken() const
+{
+    // What the kernel received, less what still waits in the socket and in the library's buffer.
+    tcp_info info{};
+    socklen_t length = sizeof info;
+    int queued = 0;
+    if (!cl || getsockopt(cl->sock, IPPROTO_TCP, TCP_INFO, &info, &length) != 0 || ioctl(cl->sock, SIOCINQ, &queued) != 0)
+        return -1;
+    return static_cast<qint64>(info.tcpi_bytes_received) - queued - cl->buffered;
+}
+
+void VNCConnector::followLink(qint64 now)
+{
+    // The library sends the next request just before it reports the update finished.
+    if (m_messageStart >= 0) {
+        const qint64 bytes = bytesTaken();
+        if (bytes >= 0 && m_messageBytes >= 0)
+            m_meter.addUpdate(bytes - m_messageBytes, now - m_messageStart);
+        if (m_requestSent >= 0)
+            m_meter.addRoundTrip(m_messageStart - m_requestSent);
+    }
+    m_messageStart = -1;
+    m_requestSent = now;
+    if (!m_automatic || !m_meter.ready())
+        return;
+    const VncLinkClass linkClass = VncEncodingPolicy::classify(m_meter.kbitPerSecond(), m_meter.latencyMs(), m_linkClass);
+    if (linkClass == m_linkClass)
+        return;
+    const VncEncodingChoice choice = VncEncodingPolicy::choiceFor(linkClass);
+    qInfo().noquote() << QStringLiteral("VNC link %1 kbit/s, %2 ms: %3, encodings \"%4\" compression %5 quality %6")
+                             .arg(qRound64(m_meter.kbitPerSecond()))
+                             .arg(m_meter.latencyMs(), 0, 'f', 1)
+                             .arg(QLatin1String(VncEncodingPolicy::name(linkClass)), QString::fromLatin1(choice.encodings))
+                             .arg(choice.compressLevel)
+                             .arg(choice.qualityLevel);
+    m_linkClass = linkClass;
+    applyChoice(choice);
+}
+
+void VNCConnector::applyChoice(const VncEncodingChoice& choice)
+{
+    const bool connected = cl && cl->sock >= 0; // before that rfbInitClient sends them
+    m_choice = choice;
+    if (!cl)
+        return;
+    // The library keeps the pointer: it stays valid as long as m_choice holds this choice.
+    cl->appData.encodingsString = m_choice.encodings.constData();
+    cl->appData.compressLevel = m_choice.compressLevel;
+    cl->appData.qualityLevel = m_choice.qualityLevel;
+    cl->appData.enableJPEG = m_choice.qualityLevel >= 0 ? TRUE : FALSE;
+    if (connected && !SetFormatAndEncodings(cl))
+        qWarning() << "VNC encodings could not be sent";
 }
 
 void VNCConnector::emitImageReady(const QImage& image)
@@ -113,7 +175,24 @@ bool VNCConnector::initConnection(const Connection& connection)
     cl->format.redMax = format.redMax;
     cl->format.greenMax = format.greenMax;
     cl->format.blueMax = format.blueMax;
-    SetFormatAndEncodings(cl);
+
+    // The record's own encodings win; otherwise compact ones until the first updates have shown
+    // what the link carries (see followLink).
+    const QJsonObject record = connection.getData();
+    const std::optional<VncEncodingChoice> own = VncEncodingPolicy::explicitChoice(
+        record.value(QStringLiteral("encodings")).toString(), record.value(QStringLiteral("compressLevel")).toInt(-1),
+        record.value(QStringLiteral("qualityLevel")).toInt(-1));
+    m_automatic = !own;
+    m_linkClass = VncLinkClass::Unmeasured;
+    m_meter = VncLinkMeter();
+    m_messageStart = m_requestSent = -1;
+    m_choice = VncEncodingChoice();
+    applyChoice(own ? *own : VncEncodingPolicy::choiceFor(VncLinkClass::Unmeasured));
+    qInfo().noquote() << QStringLiteral("VNC encodings \"%1\" compression %2 quality %3%4")
+                             .arg(QString::fromLatin1(m_choice.encodings))
+                             .arg(m_choice.compressLevel)
+                             .arg(m_choice.qualityLevel)
+                             .arg(own ? QStringLiteral(" (the connection's own)") : QStringLiteral(", until the link is measured"));
 
     cl->MallocFrameBuffer = &VNCConnector::mallocFrameBuffer;
     cl->GotFrameBufferUpdate = &VNCConnector::gotFrameBufferUpdate;
@@ -134,6 +213,9 @@ bool VNCConnector::initConnection(const Connection& connection)
         cl = nullptr; // freed by the library
         return false;
     }
+    // rfbInitClient has asked for the first update.
+    m_clock.start();
+    m_requestSent = 0;
 
     auto* view = new ViewDialog; // one window per session
     if (connection.getBool(QStringLiteral("shrink")))
@@ -160,10 +242,16 @@ void VNCConnector::handleEvent()
     }
     // The time-out is in microseconds; data the library has already buffered does not wake it.
     const int ready = cl->buffered > 0 ? 1 : WaitForMessage(cl, 10000);
+    if (ready > 0 && m_messageStart < 0) {
+        m_messageStart = m_clock.nsecsElapsed() / 1000;
+        m_messageBytes = bytesTaken();
+    }
     if (ready < 0 || (ready > 0 && !HandleRFBServerMessage(cl))) {
         qWarning() << "VNC server closed the connection";
         m_serverGone = true;
     }
+    m_messageStart = -1; // an update has been measured in followLink; other messages are not
+
 }
 
 void VNCConnector::cursorEvent(CursorEvent event)

@@ -2,8 +2,10 @@
 
 #include "Connection.h"
 #include "RemoteConnectionInterface.h"
+#include "VncEncodingPolicy.h"
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QRect>
 
@@ -55,6 +57,10 @@ public:
     // being delivered, the part that frame changed.
     QRect pendingDamage() const override { return m_damage; }
 
+    // The encodings asked of the server now, and the link as measured so far.
+    VncEncodingChoice encodingChoice() const { return m_choice; }
+    VncLinkClass linkClass() const { return m_linkClass; }
+
 signals:
     // imageReady(QImage) comes from the interface.
     void resize(int width, int height);
@@ -66,6 +72,11 @@ private:
     static signed char mallocFrameBuffer(_rfbClient* client);
     static void gotFrameBufferUpdate(_rfbClient* client, int x, int y, int w, int h);
     static void finishedFrameBufferUpdate(_rfbClient* client);
+    // Bytes of the server's stream taken in by the library so far.
+    qint64 bytesTaken() const;
+    // After each update: the link measured, and the encodings changed when it calls for others.
+    void followLink(qint64 now);
+    void applyChoice(const VncEncodingChoice& choice);
 
     static VNCConnector* m_instance;
     bool m_terminate = false;
@@ -78,4 +89,13 @@ private:
     int m_height = 0;
     std::unique_ptr<RunningProcess> m_process;
     QRect m_damage;
+
+    VncEncodingChoice m_choice;
+    VncLinkClass m_linkClass = VncLinkClass::Unmeasured;
+    bool m_automatic = true; // false when the record names its own encodings
+    VncLinkMeter m_meter;
+    QElapsedTimer m_clock;
+    qint64 m_messageStart = -1;     // µs: when the message being handled was seen arriving
+    qint64 m_messageBytes = 0;      // bytesTaken() then
+    qint64 m_requestSent = -1;      // µs: when the last update request went out
 };
