@@ -4,6 +4,7 @@
  * typing a key (XTest) and timing the marker's change on screen.
  *
  * Usage: vnc_probe [--keys-every MS]   (0: no keys)
+ *        vnc_probe --dump FILE.ppm       (the screen as it is, then exit)
  * Prints "ready", "found X Y" when the stamp is on screen, "latency ms=<ms>" per key, and every
  * 100 ms "probe t=<s> frames=<n> found=<0|1> keys=<n> lost=<n>" (totals since start).
  */
@@ -77,6 +78,29 @@ static int findStamp(Display* display, Window root, int width, int height, int* 
     return found;
 }
 
+// The whole screen as a PPM file, to see what a viewer showed when the stamp was not found.
+static int dumpScreen(Display* display, const char* path)
+{
+    const int screen = DefaultScreen(display);
+    const int width = DisplayWidth(display, screen), height = DisplayHeight(display, screen);
+    XImage* image = XGetImage(display, RootWindow(display, screen), 0, 0, width, height, AllPlanes, ZPixmap);
+    FILE* file = fopen(path, "wb");
+    if (!image || !file)
+        return 1;
+    fprintf(file, "P6\n%d %d\n255\n", width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            int r, g, b;
+            rgb(image, x, y, &r, &g, &b);
+            fputc(r, file);
+            fputc(g, file);
+            fputc(b, file);
+        }
+    fclose(file);
+    XDestroyImage(image);
+    return 0;
+}
+
 int main(int argc, char** argv)
 {
     double keysEvery = 0;
@@ -87,6 +111,8 @@ int main(int argc, char** argv)
         fprintf(stderr, "vnc_probe: cannot open display\n");
         return 1;
     }
+    if (argc == 3 && !strcmp(argv[1], "--dump"))
+        return dumpScreen(display, argv[2]);
     XSetErrorHandler(ignoreErrors);
     int eventBase = 0, errorBase = 0, major, minor, xtestEvent, xtestError;
     if (!XDamageQueryExtension(display, &eventBase, &errorBase) || !XTestQueryExtension(display, &xtestEvent, &xtestError, &major, &minor)) {
@@ -125,8 +151,16 @@ int main(int argc, char** argv)
                 found = 1;
                 lastSeen = t;
                 printf("found %d %d\n", stampX, stampY);
-                // Keys go to the window under the pointer (no window manager): the viewer's.
+                // No window manager gives the viewer the keyboard: the pointer goes over its
+                // window, and the window under it gets the focus.
                 XTestFakeMotionEvent(display, screen, stampX + 400, stampY + 300, 0);
+                XSync(display, False);
+                Window rootReturn, child = None;
+                int rx, ry, wx, wy;
+                unsigned int mask;
+                XQueryPointer(display, root, &rootReturn, &child, &rx, &ry, &wx, &wy, &mask);
+                if (child != None)
+                    XSetInputFocus(display, child, RevertToPointerRoot, CurrentTime);
                 XFlush(display);
                 nextKey = t + 1.0;
                 dirty = 1;

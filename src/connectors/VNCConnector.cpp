@@ -22,6 +22,7 @@
 #include <netinet/in.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
+#include <time.h>
 
 VNCConnector* VNCConnector::m_instance = nullptr;
 QByteArray VNCConnector::m_password;
@@ -108,13 +109,42 @@ qint64 VNCConnector::bytesTaken() const
     return static_cast<qint64>(info.tcpi_bytes_received) - queued - cl->buffered;
 }
 
+qint64 VNCConnector::arrivalOfWaitingData(qint64 now) const
+{
+    // The kernel stamps what it receives (SO_TIMESTAMPNS); a peek reads the stamp of the first
+    // waiting byte. Part of the message may already sit in the library's buffer: then it is now.
+    if (!cl || cl->buffered > 0)
+        return now;
+    char byte = 0;
+    alignas(cmsghdr) char control[CMSG_SPACE(sizeof(timespec))];
+    iovec data{&byte, 1};
+    msghdr message{};
+    message.msg_iov = &data;
+    message.msg_iovlen = 1;
+    message.msg_control = control;
+    message.msg_controllen = sizeof control;
+    if (recvmsg(cl->sock, &message, MSG_PEEK | MSG_DONTWAIT) != 1)
+        return now;
+    for (cmsghdr* header = CMSG_FIRSTHDR(&message); header; header = CMSG_NXTHDR(&message, header)) {
+        if (header->cmsg_level != SOL_SOCKET || header->cmsg_type != SCM_TIMESTAMPNS)
+            continue;
+        timespec arrival{};
+        std::memcpy(&arrival, CMSG_DATA(header), sizeof arrival);
+        timespec wall{};
+        clock_gettime(CLOCK_REALTIME, &wall);
+        const qint64 ago = (wall.tv_sec - arrival.tv_sec) * 1000000LL + (wall.tv_nsec - arrival.tv_nsec) / 1000;
+        return ago >= 0 && ago <= now ? now - ago : now;
+    }
+    return now;
+}
+
 void VNCConnector::followLink(qint64 now)
 {
     // The library sends the next request just before it reports the update finished.
     if (m_messageStart >= 0) {
         const qint64 bytes = bytesTaken();
         if (bytes >= 0 && m_messageBytes >= 0)
-            m_meter.addUpdate(bytes - m_messageBytes, now - m_messageStart);
+            m_meter.addUpdate(bytes - m_messageBytes, now - m_messageStart, m_requestSent >= 0 ? now - m_requestSent : now - m_messageStart);
         if (m_requestSent >= 0)
             m_meter.addRoundTrip(m_messageStart - m_requestSent);
     }
@@ -122,17 +152,30 @@ void VNCConnector::followLink(qint64 now)
     m_requestSent = now;
     if (!m_automatic || !m_meter.ready())
         return;
-    const VncLinkClass linkClass = VncEncodingPolicy::classify(m_meter.kbitPerSecond(), m_meter.latencyMs(), m_linkClass);
-    if (linkClass == m_linkClass)
+    const VncLinkFigures figures = m_meter.figures();
+    if (!m_measured) {
+        m_measured = true;
+        qInfo().noquote() << QStringLiteral("VNC link measured %1 kbit/s (%2 kbit/s request to update), %3 ms with the %4 encodings")
+                                 .arg(qRound64(figures.kbitPerSecond))
+                                 .arg(qRound64(figures.cycleKbitPerSecond))
+                                 .arg(figures.latencyMs, 0, 'f', 1)
+                                 .arg(QLatin1String(VncEncodingPolicy::name(m_verdict.linkClass)));
+    }
+    const VncLinkVerdict verdict = VncEncodingPolicy::judge(m_verdict, figures);
+    if (verdict.linkClass == m_verdict.linkClass)
         return;
-    const VncEncodingChoice choice = VncEncodingPolicy::choiceFor(linkClass);
-    qInfo().noquote() << QStringLiteral("VNC link %1 kbit/s, %2 ms: %3, encodings \"%4\" compression %5 quality %6")
-                             .arg(qRound64(m_meter.kbitPerSecond()))
-                             .arg(m_meter.latencyMs(), 0, 'f', 1)
-                             .arg(QLatin1String(VncEncodingPolicy::name(linkClass)), QString::fromLatin1(choice.encodings))
+    const VncEncodingChoice choice = VncEncodingPolicy::choiceFor(verdict.linkClass);
+    qInfo().noquote() << QStringLiteral("VNC link %1 kbit/s (%2 kbit/s request to update), %3 ms: %4, encodings \"%5\" compression %6 quality %7")
+                             .arg(qRound64(figures.kbitPerSecond))
+                             .arg(qRound64(figures.cycleKbitPerSecond))
+                             .arg(figures.latencyMs, 0, 'f', 1)
+                             .arg(QLatin1String(VncEncodingPolicy::name(verdict.linkClass)), QString::fromLatin1(choice.encodings))
                              .arg(choice.compressLevel)
                              .arg(choice.qualityLevel);
-    m_linkClass = linkClass;
+    m_verdict = verdict;
+    // The figures so far belong to the encodings left behind: measure the new ones afresh.
+    m_meter = VncLinkMeter();
+    m_measured = false;
     applyChoice(choice);
 }
 
@@ -183,8 +226,9 @@ bool VNCConnector::initConnection(const Connection& connection)
         record.value(QStringLiteral("encodings")).toString(), record.value(QStringLiteral("compressLevel")).toInt(-1),
         record.value(QStringLiteral("qualityLevel")).toInt(-1));
     m_automatic = !own;
-    m_linkClass = VncLinkClass::Unmeasured;
+    m_verdict = VncLinkVerdict();
     m_meter = VncLinkMeter();
+    m_measured = false;
     m_messageStart = m_requestSent = -1;
     m_choice = VncEncodingChoice();
     applyChoice(own ? *own : VncEncodingPolicy::choiceFor(VncLinkClass::Unmeasured));
@@ -216,6 +260,9 @@ bool VNCConnector::initConnection(const Connection& connection)
     // rfbInitClient has asked for the first update.
     m_clock.start();
     m_requestSent = 0;
+    const int on = 1;
+    if (setsockopt(cl->sock, SOL_SOCKET, SO_TIMESTAMPNS, &on, sizeof on) != 0)
+        qWarning() << "VNC: no arrival times from the socket; the link is measured from when data is read";
 
     auto* view = new ViewDialog; // one window per session
     if (connection.getBool(QStringLiteral("shrink")))
@@ -243,7 +290,8 @@ void VNCConnector::handleEvent()
     // The time-out is in microseconds; data the library has already buffered does not wake it.
     const int ready = cl->buffered > 0 ? 1 : WaitForMessage(cl, 10000);
     if (ready > 0 && m_messageStart < 0) {
-        m_messageStart = m_clock.nsecsElapsed() / 1000;
+        // Measured from the arrival of its first byte, not from when the loop came to it.
+        m_messageStart = arrivalOfWaitingData(m_clock.nsecsElapsed() / 1000);
         m_messageBytes = bytesTaken();
     }
     if (ready < 0 || (ready > 0 && !HandleRFBServerMessage(cl))) {

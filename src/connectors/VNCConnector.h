@@ -59,7 +59,7 @@ public:
 
     // The encodings asked of the server now, and the link as measured so far.
     VncEncodingChoice encodingChoice() const { return m_choice; }
-    VncLinkClass linkClass() const { return m_linkClass; }
+    VncLinkClass linkClass() const { return m_verdict.linkClass; }
 
 signals:
     // imageReady(QImage) comes from the interface.
@@ -74,6 +74,8 @@ private:
     static void finishedFrameBufferUpdate(_rfbClient* client);
     // Bytes of the server's stream taken in by the library so far.
     qint64 bytesTaken() const;
+    // When the first byte waiting in the socket arrived, on m_clock's scale (µs); `now` if unknown.
+    qint64 arrivalOfWaitingData(qint64 now) const;
     // After each update: the link measured, and the encodings changed when it calls for others.
     void followLink(qint64 now);
     void applyChoice(const VncEncodingChoice& choice);
@@ -91,11 +93,12 @@ private:
     QRect m_damage;
 
     VncEncodingChoice m_choice;
-    VncLinkClass m_linkClass = VncLinkClass::Unmeasured;
+    VncLinkVerdict m_verdict;
     bool m_automatic = true; // false when the record names its own encodings
     VncLinkMeter m_meter;
+    bool m_measured = false; // the meter's first figures since the last change have been logged
     QElapsedTimer m_clock;
-    qint64 m_messageStart = -1;     // µs: when the message being handled was seen arriving
+    qint64 m_messageStart = -1;     // µs: when the first byte of the message being handled arrived
     qint64 m_messageBytes = 0;      // bytesTaken() then
     qint64 m_requestSent = -1;      // µs: when the last update request went out
 };

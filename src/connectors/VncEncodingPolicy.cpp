@@ -17,35 +17,31 @@ const QStringList& knownEncodings()
     return names;
 }
 
-bool fastEnough(double kbitPerSecond, double latencyMs, double factor)
-{
-    return kbitPerSecond >= kFastKbps * factor && latencyMs <= kFastLatencyMs / factor;
-}
 } // namespace
 
-VncLinkClass classify(double kbitPerSecond, double latencyMs, VncLinkClass current)
+VncLinkVerdict judge(const VncLinkVerdict& current, const VncLinkFigures& figures)
 {
-    // Moving up takes figures a margin beyond the border, moving down a margin below it.
-    const double up = kHysteresis, down = 1 / kHysteresis;
-    switch (current) {
-    case VncLinkClass::Fast:
-        if (fastEnough(kbitPerSecond, latencyMs, down))
-            return VncLinkClass::Fast;
-        return kbitPerSecond >= kMediumKbps ? VncLinkClass::Medium : VncLinkClass::Slow;
-    case VncLinkClass::Medium:
-        if (fastEnough(kbitPerSecond, latencyMs, up))
-            return VncLinkClass::Fast;
-        return kbitPerSecond >= kMediumKbps * down ? VncLinkClass::Medium : VncLinkClass::Slow;
-    case VncLinkClass::Slow:
-        if (fastEnough(kbitPerSecond, latencyMs, up))
-            return VncLinkClass::Fast;
-        return kbitPerSecond >= kMediumKbps * up ? VncLinkClass::Medium : VncLinkClass::Slow;
-    case VncLinkClass::Unmeasured:
-        break;
+    VncLinkVerdict next = current;
+    if (current.linkClass == VncLinkClass::Fast) {
+        if (figures.cycleKbitPerSecond >= kStayFastKbps && figures.latencyMs <= kFastLatencyMs * kHysteresis)
+            return next;
+        // Plain pixels measured the link itself: remember how far it got.
+        next.linkClass = figures.kbitPerSecond >= kMediumKbps ? VncLinkClass::Medium : VncLinkClass::Slow;
+        next.fastRefusedKbps = figures.cycleKbitPerSecond;
+        return next;
     }
-    if (fastEnough(kbitPerSecond, latencyMs, 1))
-        return VncLinkClass::Fast;
-    return kbitPerSecond >= kMediumKbps ? VncLinkClass::Medium : VncLinkClass::Slow;
+    if (figures.kbitPerSecond >= kTryFastKbps && figures.latencyMs <= kFastLatencyMs
+        && (current.fastRefusedKbps <= 0 || figures.cycleKbitPerSecond >= current.fastRefusedKbps * kHysteresis)) {
+        next.linkClass = VncLinkClass::Fast;
+        return next;
+    }
+    double border = kMediumKbps;
+    if (current.linkClass == VncLinkClass::Medium)
+        border /= kHysteresis;
+    else if (current.linkClass == VncLinkClass::Slow)
+        border *= kHysteresis;
+    next.linkClass = figures.kbitPerSecond >= border ? VncLinkClass::Medium : VncLinkClass::Slow;
+    return next;
 }
 
 VncEncodingChoice choiceFor(VncLinkClass linkClass)
@@ -97,23 +93,28 @@ const char* name(VncLinkClass linkClass)
 
 } // namespace VncEncodingPolicy
 
-void VncLinkMeter::addUpdate(qint64 bytes, qint64 elapsedUs)
+void VncLinkMeter::Rate::add(qint64 addedBytes, qint64 elapsedUs, bool settled)
 {
-    if (bytes <= 0 || elapsedUs < 0)
-        return;
     elapsedUs = std::max<qint64>(elapsedUs, 1);
-    ++m_updates;
-    m_bytes += bytes;
-    m_measuredUs += elapsedUs;
-    const double kbps = bytes * 8.0 * 1000.0 / elapsedUs;
-    if (!ready() || m_updates == kMinUpdates) {
-        // The first updates: their throughput as a whole, each counting by its duration.
-        m_kbitPerSecond = m_bytes * 8.0 * 1000.0 / m_measuredUs;
+    bytes += addedBytes;
+    us += elapsedUs;
+    if (!settled) {
+        kbps = bytes * 8.0 * 1000.0 / us;
         return;
     }
-    // Then a moving figure: a long update moves it further than a short one.
     const double weight = std::min(elapsedUs / kWindowUs, kMaxWeight);
-    m_kbitPerSecond = m_kbitPerSecond * (1 - weight) + kbps * weight;
+    kbps = kbps * (1 - weight) + addedBytes * 8.0 * 1000.0 / elapsedUs * weight;
+}
+
+void VncLinkMeter::addUpdate(qint64 bytes, qint64 sinceArrivalUs, qint64 sinceRequestUs)
+{
+    if (bytes <= 0 || sinceArrivalUs < 0 || sinceRequestUs < 0)
+        return;
+    const bool settled = ready();
+    ++m_updates;
+    m_bytes += bytes;
+    m_arrival.add(bytes, sinceArrivalUs, settled);
+    m_cycle.add(bytes, std::max(sinceRequestUs, sinceArrivalUs), settled);
 }
 
 void VncLinkMeter::addRoundTrip(qint64 elapsedUs)
@@ -130,9 +131,12 @@ bool VncLinkMeter::ready() const
     return m_updates >= kMinUpdates && m_bytes >= kMinBytes && !m_roundTrips.isEmpty();
 }
 
-double VncLinkMeter::latencyMs() const
+VncLinkFigures VncLinkMeter::figures() const
 {
-    if (m_roundTrips.isEmpty())
-        return 0;
-    return *std::min_element(m_roundTrips.cbegin(), m_roundTrips.cend()) / 1000.0;
+    VncLinkFigures figures;
+    figures.kbitPerSecond = m_arrival.kbps;
+    figures.cycleKbitPerSecond = m_cycle.kbps;
+    if (!m_roundTrips.isEmpty())
+        figures.latencyMs = *std::min_element(m_roundTrips.cbegin(), m_roundTrips.cend()) / 1000.0;
+    return figures;
 }

@@ -29,23 +29,57 @@ enum class VncLinkClass {
     Fast,       // a LAN with room to spare: the cheapest encodings to decode win
 };
 
-// The encoding choice, a pure function of measured throughput and latency (the viewer measures,
-// see VncLinkMeter). The thresholds follow TigerVNC's automatic selection (16 Mbit/s between a
-// slow and a fast picture quality) and add a LAN class where the decoding, not the wire, limits
-// the frame rate.
+// Where the viewer stands: the class of its link and, once a fast-class encoding has shown the link
+// too slow for it, the throughput it measured then.
+struct VncLinkVerdict {
+    VncLinkClass linkClass = VncLinkClass::Unmeasured;
+    double fastRefusedKbps = 0;
+
+    bool operator==(const VncLinkVerdict& other) const
+    {
+        return linkClass == other.linkClass && fastRefusedKbps == other.fastRefusedKbps;
+    }
+};
+
+// What the viewer measured of its link (see VncLinkMeter).
+struct VncLinkFigures {
+    // Bytes per second of taking an update in, from the arrival of its data to its end, decoding
+    // included (as TigerVNC measures): bounded by the server's encoder and the viewer's decoder
+    // as much as by the link.
+    double kbitPerSecond = 0;
+    // Bytes per second from sending a request to the end of its update: never above the link,
+    // and with plain pixels (cheap at both ends) close to it.
+    double cycleKbitPerSecond = 0;
+    // The shortest recent time from a request to the start of its answer (ms).
+    double latencyMs = 0;
+};
+
+// The encoding choice, a pure function of measured throughput and latency. The slow/medium border
+// and the qualities follow TigerVNC's automatic selection (16 Mbit/s between JPEG quality 6 and
+// 8); a fast class is added for a LAN, where decoding, not the wire, limits the frame rate.
+//
+// Compact encodings cannot tell a fast link from a very fast one (their figures are bounded by
+// the codecs), so a link with a short round trip that is not slow is tried with the fast class's
+// encodings. They stay while requests come back at kStayFastKbps; otherwise the viewer goes back
+// to compact ones, remembers what the link carried, and tries again only once compact encodings
+// see clearly more than that.
 namespace VncEncodingPolicy {
 
 // Below this a link is slow (kbit/s).
 constexpr double kMediumKbps = 16000;
-// From this on, with a short round trip, a link is fast (kbit/s, ms).
-constexpr double kFastKbps = 200000;
+// The fast class is tried from this throughput on (kbit/s), with a round trip of at most
+// kFastLatencyMs ...
+constexpr double kTryFastKbps = 30000;
 constexpr double kFastLatencyMs = 10;
-// A class is left only when the figures are this far (as a factor) beyond its border: an estimate
-// that wanders around a threshold must not make the viewer switch back and forth.
+// ... and kept while plain pixels come back at this rate (a full-HD desktop in use sends about
+// 1 MB per frame that way: below this the frame rate drops under the compact encodings').
+constexpr double kStayFastKbps = 200000;
+// Margin (a factor) a figure must be beyond a border before the class changes back: an estimate
+// that wanders around a threshold must not make the viewer switch to and fro.
 constexpr double kHysteresis = 1.25;
 
-// The class for a measured throughput (kbit/s) and round trip (ms), given the class in use.
-VncLinkClass classify(double kbitPerSecond, double latencyMs, VncLinkClass current);
+// The next verdict for what was measured.
+VncLinkVerdict judge(const VncLinkVerdict& current, const VncLinkFigures& figures);
 
 VncEncodingChoice choiceFor(VncLinkClass linkClass);
 
@@ -58,35 +92,37 @@ const char* name(VncLinkClass linkClass);
 
 } // namespace VncEncodingPolicy
 
-// Throughput and latency of a session, from what the viewer sees of its updates: each update's
-// bytes and the time from its first to its last byte being taken in (decoding included, as
-// TigerVNC measures), and the time from an update request to the start of the answer. Time is
-// passed in, so the class can be driven by a test.
+// Measures a session's link from its updates: each update's bytes, the time from the arrival of
+// its data to its end and from its request to its end, and the time from a request to the start
+// of the answer. Time is passed in, so the class can be driven by a test.
 class VncLinkMeter {
 public:
-    // An update of `bytes` taken in over `elapsedUs`.
-    void addUpdate(qint64 bytes, qint64 elapsedUs);
+    void addUpdate(qint64 bytes, qint64 sinceArrivalUs, qint64 sinceRequestUs);
     // The time between sending an update request and the start of the next update.
     void addRoundTrip(qint64 elapsedUs);
 
     // Enough has been seen to judge the link: at least kMinUpdates updates with kMinBytes in all.
     bool ready() const;
-    double kbitPerSecond() const { return m_kbitPerSecond; }
-    // The shortest recent round trip: a server with nothing to send holds a request back, the
-    // shortest wait is the one closest to the link's own delay.
-    double latencyMs() const;
+    VncLinkFigures figures() const;
 
     static constexpr int kMinUpdates = 3;
     static constexpr qint64 kMinBytes = 64 * 1024;
     static constexpr int kRoundTripWindow = 16;
-    // An update counts in proportion to its duration against this window, at most kMaxWeight.
+    // After the first updates an update moves a figure in proportion to its duration against this
+    // window, at most by kMaxWeight: many small updates do not drown a large one.
     static constexpr double kWindowUs = 1000000;
     static constexpr double kMaxWeight = 0.2;
 
 private:
-    double m_kbitPerSecond = 0;
+    // One throughput: the first updates as a whole, then a moving figure.
+    struct Rate {
+        double kbps = 0;
+        qint64 bytes = 0;
+        qint64 us = 0;
+        void add(qint64 addedBytes, qint64 elapsedUs, bool settled);
+    };
+    Rate m_arrival, m_cycle;
     int m_updates = 0;
     qint64 m_bytes = 0;
-    qint64 m_measuredUs = 0;
     QVector<qint64> m_roundTrips;
 };
