@@ -7,6 +7,7 @@
  * connections=<n>" (totals since start). QUEUE_BYTES (256 KiB) bounds what waits in each
  * direction: beyond it the relay stops reading, so the sender feels the link.
  */
+#define _GNU_SOURCE
 #include <arpa/inet.h>
 #include <errno.h>
 #include <netinet/in.h>
@@ -127,8 +128,10 @@ int main(int argc, char** argv)
                 }
             }
         }
-        const long long timeout = (wake - now + 999) / 1000;
-        poll(fds, events, timeout < 0 ? 0 : (int)timeout);
+        // Microseconds: a delay of a quarter millisecond must not become a whole one.
+        const long long timeout = wake > now ? wake - now : 0;
+        const struct timespec wait = {timeout / 1000000, (timeout % 1000000) * 1000};
+        ppoll(fds, events, &wait, NULL);
 
         if (fds[0].revents & POLLIN) {
             const int client = accept(listener, NULL, NULL);
@@ -140,6 +143,10 @@ int main(int argc, char** argv)
             if (server >= 0 && connect(server, (struct sockaddr*)&target, sizeof target) == 0) {
                 noDelay(client);
                 noDelay(server);
+                // What the link holds is the delay line and the shaper's queue, not a deep socket
+                // buffer in front of them (the kernel doubles the figure).
+                const int sendBuffer = 32 * 1024;
+                setsockopt(client, SOL_SOCKET, SO_SNDBUF, &sendBuffer, sizeof sendBuffer);
                 struct pair* pair = &pairs[slot];
                 memset(pair, 0, sizeof *pair);
                 pair->used = 1;

@@ -177,8 +177,10 @@ def run_once(kind, display, xvfb):
         xvnc, server_display = start_xvnc(sandbox, port)
         scene = subprocess.Popen(in_ns(SERVER_NS, [SCENE]), env=dict(os.environ, DISPLAY=server_display),
                                  stdout=subprocess.PIPE, text=True)
+        # The delay line holds what is in flight (twice the bandwidth-delay product, at least 64 KiB).
+        queue = max(64 * 1024, int(2 * LINK_RATE / 8 * LINK_DELAY_US / 1e6))
         relay = subprocess.Popen(in_ns(SERVER_NS, [RELAY, SERVER_IP, str(relay_port), "127.0.0.1", str(port),
-                                                   str(int(LINK_DELAY_US))]), stdout=subprocess.PIPE, text=True)
+                                                   str(int(LINK_DELAY_US)), str(queue)]), stdout=subprocess.PIPE, text=True)
         relay_status = vnc.Reporter(relay, "relay")
         procs = [xvnc, scene, relay]
         viewer = probe_proc = None
@@ -298,10 +300,11 @@ def report(link, results):
 
 
 LINK_DELAY_US = 0
+LINK_RATE = 0
 
 
 def main():
-    global LINK_DELAY_US
+    global LINK_DELAY_US, LINK_RATE
     if os.geteuid() != 0:
         print("vnc_links.py: network namespaces need root; VNC link figures skipped", file=sys.stderr)
         for link in SELECTED_LINKS:
@@ -317,6 +320,7 @@ def main():
             rate, round_trip_ms = LINKS[link]
             shape(rate)
             LINK_DELAY_US = round_trip_ms * 1000 / 2
+            LINK_RATE = rate
             report(link, link_rounds(link, display, xvfb, kinds))
     finally:
         remove_namespaces()

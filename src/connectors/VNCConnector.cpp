@@ -15,6 +15,7 @@
 
 #include <rfb/rfbclient.h>
 
+#include <algorithm>
 #include <cstring>
 
 #include <linux/sockios.h>
@@ -138,43 +139,56 @@ qint64 VNCConnector::arrivalOfWaitingData(qint64 now) const
     return now;
 }
 
+bool VNCConnector::nextMessageIsUpdate() const
+{
+    char type = -1;
+    if (cl->buffered > 0)
+        type = *cl->bufoutptr;
+    else if (recv(cl->sock, &type, 1, MSG_PEEK | MSG_DONTWAIT) != 1)
+        return false;
+    return type == rfbFramebufferUpdate;
+}
+
 void VNCConnector::followLink(qint64 now)
 {
-    // The library sends the next request just before it reports the update finished.
     if (m_messageStart >= 0) {
         const qint64 bytes = bytesTaken();
         if (bytes >= 0 && m_messageBytes >= 0)
-            m_meter.addUpdate(bytes - m_messageBytes, now - m_messageStart, m_requestSent >= 0 ? now - m_requestSent : now - m_messageStart);
-        if (m_requestSent >= 0)
-            m_meter.addRoundTrip(m_messageStart - m_requestSent);
+            m_meter.addUpdate(bytes - m_messageBytes, now - m_messageStart);
+        // With overlapping requests the wait no longer shows the round trip.
+        if (!m_overlapRequests)
+            m_meter.addRoundTrip(m_messageStart - m_answeredRequest);
     }
     m_messageStart = -1;
-    m_requestSent = now;
+    // The library has just sent the next request.
+    if (m_openRequest < 0)
+        m_openRequest = now;
     if (!m_automatic || !m_meter.ready())
         return;
     const VncLinkFigures figures = m_meter.figures();
     if (!m_measured) {
         m_measured = true;
-        qInfo().noquote() << QStringLiteral("VNC link measured %1 kbit/s (%2 kbit/s request to update), %3 ms with the %4 encodings")
+        qInfo().noquote() << QStringLiteral("VNC link measured %1 kbit/s, %2 ms with the %3 encodings")
                                  .arg(qRound64(figures.kbitPerSecond))
-                                 .arg(qRound64(figures.cycleKbitPerSecond))
                                  .arg(figures.latencyMs, 0, 'f', 1)
                                  .arg(QLatin1String(VncEncodingPolicy::name(m_verdict.linkClass)));
     }
     const VncLinkVerdict verdict = VncEncodingPolicy::judge(m_verdict, figures);
+    // The round trip has been measured: from now on the next request goes out as soon as an
+    // update starts to arrive, so a long round trip does not idle the link between frames.
+    m_overlapRequests = true;
     if (verdict.linkClass == m_verdict.linkClass)
         return;
     const VncEncodingChoice choice = VncEncodingPolicy::choiceFor(verdict.linkClass);
-    qInfo().noquote() << QStringLiteral("VNC link %1 kbit/s (%2 kbit/s request to update), %3 ms: %4, encodings \"%5\" compression %6 quality %7")
+    qInfo().noquote() << QStringLiteral("VNC link %1 kbit/s, %2 ms: %3, encodings \"%4\" compression %5 quality %6")
                              .arg(qRound64(figures.kbitPerSecond))
-                             .arg(qRound64(figures.cycleKbitPerSecond))
                              .arg(figures.latencyMs, 0, 'f', 1)
                              .arg(QLatin1String(VncEncodingPolicy::name(verdict.linkClass)), QString::fromLatin1(choice.encodings))
                              .arg(choice.compressLevel)
                              .arg(choice.qualityLevel);
     m_verdict = verdict;
-    // The figures so far belong to the encodings left behind: measure the new ones afresh.
-    m_meter = VncLinkMeter();
+    // The throughput so far belongs to the encodings left behind: measure the new ones afresh.
+    m_meter.restartThroughput();
     m_measured = false;
     applyChoice(choice);
 }
@@ -229,7 +243,9 @@ bool VNCConnector::initConnection(const Connection& connection)
     m_verdict = VncLinkVerdict();
     m_meter = VncLinkMeter();
     m_measured = false;
-    m_messageStart = m_requestSent = -1;
+    m_messageStart = -1;
+    m_openRequest = m_answeredRequest = -1;
+    m_overlapRequests = false;
     m_choice = VncEncodingChoice();
     applyChoice(own ? *own : VncEncodingPolicy::choiceFor(VncLinkClass::Unmeasured));
     qInfo().noquote() << QStringLiteral("VNC encodings \"%1\" compression %2 quality %3%4")
@@ -259,7 +275,7 @@ bool VNCConnector::initConnection(const Connection& connection)
     }
     // rfbInitClient has asked for the first update.
     m_clock.start();
-    m_requestSent = 0;
+    m_openRequest = 0;
     const int on = 1;
     if (setsockopt(cl->sock, SOL_SOCKET, SO_TIMESTAMPNS, &on, sizeof on) != 0)
         qWarning() << "VNC: no arrival times from the socket; the link is measured from when data is read";
@@ -291,8 +307,13 @@ void VNCConnector::handleEvent()
     const int ready = cl->buffered > 0 ? 1 : WaitForMessage(cl, 10000);
     if (ready > 0 && m_messageStart < 0) {
         // Measured from the arrival of its first byte, not from when the loop came to it.
-        m_messageStart = arrivalOfWaitingData(m_clock.nsecsElapsed() / 1000);
+        const qint64 now = m_clock.nsecsElapsed() / 1000;
+        m_messageStart = arrivalOfWaitingData(now);
         m_messageBytes = bytesTaken();
+        m_answeredRequest = m_openRequest >= 0 ? m_openRequest : m_messageStart;
+        m_openRequest = -1;
+        if (m_overlapRequests && nextMessageIsUpdate() && SendIncrementalFramebufferUpdateRequest(cl))
+            m_openRequest = now;
     }
     if (ready < 0 || (ready > 0 && !HandleRFBServerMessage(cl))) {
         qWarning() << "VNC server closed the connection";

@@ -76,6 +76,8 @@ private:
     qint64 bytesTaken() const;
     // When the first byte waiting in the socket arrived, on m_clock's scale (µs); `now` if unknown.
     qint64 arrivalOfWaitingData(qint64 now) const;
+    // Whether the message waiting (in the library's buffer or the socket) is a framebuffer update.
+    bool nextMessageIsUpdate() const;
     // After each update: the link measured, and the encodings changed when it calls for others.
     void followLink(qint64 now);
     void applyChoice(const VncEncodingChoice& choice);
@@ -100,5 +102,7 @@ private:
     QElapsedTimer m_clock;
     qint64 m_messageStart = -1;     // µs: when the first byte of the message being handled arrived
     qint64 m_messageBytes = 0;      // bytesTaken() then
-    qint64 m_requestSent = -1;      // µs: when the last update request went out
+    qint64 m_openRequest = -1;      // µs: the first request sent since the last update started
+    qint64 m_answeredRequest = -1;  // µs: the request the update being handled answers
+    bool m_overlapRequests = false; // a request goes out as each update starts
 };

@@ -23,15 +23,16 @@ VncLinkVerdict judge(const VncLinkVerdict& current, const VncLinkFigures& figure
 {
     VncLinkVerdict next = current;
     if (current.linkClass == VncLinkClass::Fast) {
-        if (figures.cycleKbitPerSecond >= kStayFastKbps && figures.latencyMs <= kFastLatencyMs * kHysteresis)
+        if (figures.kbitPerSecond >= kStayFastKbps && figures.latencyMs <= kFastLatencyMs * kHysteresis)
             return next;
         // Plain pixels measured the link itself: remember how far it got.
         next.linkClass = figures.kbitPerSecond >= kMediumKbps ? VncLinkClass::Medium : VncLinkClass::Slow;
-        next.fastRefusedKbps = figures.cycleKbitPerSecond;
+        next.fastRefusedKbps = figures.kbitPerSecond;
         return next;
     }
-    if (figures.kbitPerSecond >= kTryFastKbps && figures.latencyMs <= kFastLatencyMs
-        && (current.fastRefusedKbps <= 0 || figures.cycleKbitPerSecond >= current.fastRefusedKbps * kHysteresis)) {
+    const double enterFast =
+        current.fastRefusedKbps > 0 ? std::max(kStayFastKbps, current.fastRefusedKbps) * kRetryFactor : kTryFastKbps;
+    if (figures.kbitPerSecond >= enterFast && figures.latencyMs <= kFastLatencyMs) {
         next.linkClass = VncLinkClass::Fast;
         return next;
     }
@@ -93,28 +94,23 @@ const char* name(VncLinkClass linkClass)
 
 } // namespace VncEncodingPolicy
 
-void VncLinkMeter::Rate::add(qint64 addedBytes, qint64 elapsedUs, bool settled)
+void VncLinkMeter::addUpdate(qint64 bytes, qint64 sinceArrivalUs)
 {
-    elapsedUs = std::max<qint64>(elapsedUs, 1);
-    bytes += addedBytes;
-    us += elapsedUs;
-    if (!settled) {
-        kbps = bytes * 8.0 * 1000.0 / us;
+    if (bytes <= 0 || sinceArrivalUs < 0)
         return;
-    }
-    const double weight = std::min(elapsedUs / kWindowUs, kMaxWeight);
-    kbps = kbps * (1 - weight) + addedBytes * 8.0 * 1000.0 / elapsedUs * weight;
-}
-
-void VncLinkMeter::addUpdate(qint64 bytes, qint64 sinceArrivalUs, qint64 sinceRequestUs)
-{
-    if (bytes <= 0 || sinceArrivalUs < 0 || sinceRequestUs < 0)
-        return;
+    const qint64 elapsedUs = std::max<qint64>(sinceArrivalUs, 1);
     const bool settled = ready();
     ++m_updates;
     m_bytes += bytes;
-    m_arrival.add(bytes, sinceArrivalUs, settled);
-    m_cycle.add(bytes, std::max(sinceRequestUs, sinceArrivalUs), settled);
+    m_us += elapsedUs;
+    if (!settled) {
+        // The first updates as a whole, each counting by its duration.
+        m_kbitPerSecond = m_bytes * 8.0 * 1000.0 / m_us;
+        return;
+    }
+    // Then a moving figure: a long update moves it further than a short one.
+    const double weight = std::min(elapsedUs / kWindowUs, kMaxWeight);
+    m_kbitPerSecond = m_kbitPerSecond * (1 - weight) + bytes * 8.0 * 1000.0 / elapsedUs * weight;
 }
 
 void VncLinkMeter::addRoundTrip(qint64 elapsedUs)
@@ -126,6 +122,14 @@ void VncLinkMeter::addRoundTrip(qint64 elapsedUs)
         m_roundTrips.removeFirst();
 }
 
+void VncLinkMeter::restartThroughput()
+{
+    m_kbitPerSecond = 0;
+    m_updates = 0;
+    m_bytes = 0;
+    m_us = 0;
+}
+
 bool VncLinkMeter::ready() const
 {
     return m_updates >= kMinUpdates && m_bytes >= kMinBytes && !m_roundTrips.isEmpty();
@@ -134,8 +138,7 @@ bool VncLinkMeter::ready() const
 VncLinkFigures VncLinkMeter::figures() const
 {
     VncLinkFigures figures;
-    figures.kbitPerSecond = m_arrival.kbps;
-    figures.cycleKbitPerSecond = m_cycle.kbps;
+    figures.kbitPerSecond = m_kbitPerSecond;
     if (!m_roundTrips.isEmpty())
         figures.latencyMs = *std::min_element(m_roundTrips.cbegin(), m_roundTrips.cend()) / 1000.0;
     return figures;

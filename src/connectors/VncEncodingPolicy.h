@@ -43,13 +43,10 @@ struct VncLinkVerdict {
 
 // What the viewer measured of its link (see VncLinkMeter).
 struct VncLinkFigures {
-    // Bytes per second of taking an update in, from the arrival of its data to its end, decoding
-    // included (as TigerVNC measures): bounded by the server's encoder and the viewer's decoder
-    // as much as by the link.
+    // Bytes per second of taking updates in, from the arrival of their data to their end,
+    // decoding included (as TigerVNC measures): with compact encodings bounded by the server's
+    // encoder and the viewer's decoder as much as by the link, with plain pixels the link's own.
     double kbitPerSecond = 0;
-    // Bytes per second from sending a request to the end of its update: never above the link,
-    // and with plain pixels (cheap at both ends) close to it.
-    double cycleKbitPerSecond = 0;
     // The shortest recent time from a request to the start of its answer (ms).
     double latencyMs = 0;
 };
@@ -60,9 +57,9 @@ struct VncLinkFigures {
 //
 // Compact encodings cannot tell a fast link from a very fast one (their figures are bounded by
 // the codecs), so a link with a short round trip that is not slow is tried with the fast class's
-// encodings. They stay while requests come back at kStayFastKbps; otherwise the viewer goes back
-// to compact ones, remembers what the link carried, and tries again only once compact encodings
-// see clearly more than that.
+// encodings. They stay while the link carries them at kStayFastKbps; otherwise the viewer goes
+// back to compact ones, remembers what the link carried, and tries again only once compact
+// encodings measure twice that, and twice kStayFastKbps at least.
 namespace VncEncodingPolicy {
 
 // Below this a link is slow (kbit/s).
@@ -71,12 +68,14 @@ constexpr double kMediumKbps = 16000;
 // kFastLatencyMs ...
 constexpr double kTryFastKbps = 30000;
 constexpr double kFastLatencyMs = 10;
-// ... and kept while plain pixels come back at this rate (a full-HD desktop in use sends about
+// ... and kept while plain pixels arrive at this rate (a full-HD desktop in use sends about
 // 1 MB per frame that way: below this the frame rate drops under the compact encodings').
 constexpr double kStayFastKbps = 200000;
 // Margin (a factor) a figure must be beyond a border before the class changes back: an estimate
 // that wanders around a threshold must not make the viewer switch to and fro.
 constexpr double kHysteresis = 1.25;
+// A fast class refused once is tried again only at this factor over what the link carried then.
+constexpr double kRetryFactor = 2;
 
 // The next verdict for what was measured.
 VncLinkVerdict judge(const VncLinkVerdict& current, const VncLinkFigures& figures);
@@ -92,14 +91,16 @@ const char* name(VncLinkClass linkClass);
 
 } // namespace VncEncodingPolicy
 
-// Measures a session's link from its updates: each update's bytes, the time from the arrival of
-// its data to its end and from its request to its end, and the time from a request to the start
-// of the answer. Time is passed in, so the class can be driven by a test.
+// Measures a session's link from its updates: each update's bytes and the time from the arrival
+// of its data to its end, and the time from a request to the start of the answer. Time is passed
+// in, so the class can be driven by a test.
 class VncLinkMeter {
 public:
-    void addUpdate(qint64 bytes, qint64 sinceArrivalUs, qint64 sinceRequestUs);
+    void addUpdate(qint64 bytes, qint64 sinceArrivalUs);
     // The time between sending an update request and the start of the next update.
     void addRoundTrip(qint64 elapsedUs);
+    // Throughput measured afresh (after a change of encodings); the round trips are kept.
+    void restartThroughput();
 
     // Enough has been seen to judge the link: at least kMinUpdates updates with kMinBytes in all.
     bool ready() const;
@@ -114,15 +115,9 @@ public:
     static constexpr double kMaxWeight = 0.2;
 
 private:
-    // One throughput: the first updates as a whole, then a moving figure.
-    struct Rate {
-        double kbps = 0;
-        qint64 bytes = 0;
-        qint64 us = 0;
-        void add(qint64 addedBytes, qint64 elapsedUs, bool settled);
-    };
-    Rate m_arrival, m_cycle;
+    double m_kbitPerSecond = 0;
     int m_updates = 0;
     qint64 m_bytes = 0;
+    qint64 m_us = 0;
     QVector<qint64> m_roundTrips;
 };
