@@ -177,8 +177,9 @@ def run_once(kind, display, xvfb):
         xvnc, server_display = start_xvnc(sandbox, port)
         scene = subprocess.Popen(in_ns(SERVER_NS, [SCENE]), env=dict(os.environ, DISPLAY=server_display),
                                  stdout=subprocess.PIPE, text=True)
-        # The delay line holds what is in flight (twice the bandwidth-delay product, at least 64 KiB).
-        queue = max(64 * 1024, int(2 * LINK_RATE / 8 * LINK_DELAY_US / 1e6))
+        # The delay line holds what is in flight: twice the bandwidth-delay product and 2 ms of
+        # the link's rate (the relay is woken late now and then on a busy machine), 64 KiB at least.
+        queue = max(64 * 1024, int(LINK_RATE / 8 * (0.002 + 2 * LINK_DELAY_US / 1e6)))
         relay = subprocess.Popen(in_ns(SERVER_NS, [RELAY, SERVER_IP, str(relay_port), "127.0.0.1", str(port),
                                                    str(int(LINK_DELAY_US)), str(queue)]), stdout=subprocess.PIPE, text=True)
         relay_status = vnc.Reporter(relay, "relay")

@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QJsonObject>
 #include <QScreen>
+#include <QSocketNotifier>
 #include <QThread>
 
 #include <rfb/rfbclient.h>
@@ -276,6 +277,8 @@ bool VNCConnector::initConnection(const Connection& connection)
     // rfbInitClient has asked for the first update.
     m_clock.start();
     m_openRequest = 0;
+    // Wakes the session loop when the server sends something (it is read in handleEvent).
+    m_socketNotifier = std::make_unique<QSocketNotifier>(cl->sock, QSocketNotifier::Read);
     const int on = 1;
     if (setsockopt(cl->sock, SOL_SOCKET, SO_TIMESTAMPNS, &on, sizeof on) != 0)
         qWarning() << "VNC: no arrival times from the socket; the link is measured from when data is read";
@@ -303,8 +306,18 @@ void VNCConnector::handleEvent()
         QThread::msleep(10);
         return;
     }
-    // The time-out is in microseconds; data the library has already buffered does not wake it.
-    const int ready = cl->buffered > 0 ? 1 : WaitForMessage(cl, 10000);
+    // Data the library has already buffered does not wake a wait on the socket.
+    int ready = cl->buffered > 0 ? 1 : WaitForMessage(cl, 0);
+    if (ready == 0 && m_socketNotifier) {
+        // Nothing from the server: sleep in the toolkit's loop, which the socket wakes too, so a
+        // key or a click goes out at once rather than after a wait on the socket alone.
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (!cl || m_serverGone)
+            return;
+        ready = cl->buffered > 0 ? 1 : WaitForMessage(cl, 0);
+    } else if (ready == 0) {
+        ready = WaitForMessage(cl, 10000); // µs
+    }
     if (ready > 0 && m_messageStart < 0) {
         // Measured from the arrival of its first byte, not from when the loop came to it.
         const qint64 now = m_clock.nsecsElapsed() / 1000;
@@ -318,6 +331,7 @@ void VNCConnector::handleEvent()
     if (ready < 0 || (ready > 0 && !HandleRFBServerMessage(cl))) {
         qWarning() << "VNC server closed the connection";
         m_serverGone = true;
+        m_socketNotifier.reset(); // a closed socket stays readable
     }
     m_messageStart = -1; // an update has been measured in followLink; other messages are not
 
@@ -338,6 +352,7 @@ void VNCConnector::sendKey(KeyEvent event)
 
 void VNCConnector::terminate()
 {
+    m_socketNotifier.reset(); // before the library closes its socket
     if (cl)
         rfbClientCleanup(cl);
     cl = nullptr; // input that arrives after the window closed must not reach a freed client

@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QImage>
 #include <QRect>
+#include <QSocketNotifier>
 
 #include <memory>
 
@@ -92,6 +93,7 @@ private:
     int m_width = 0;
     int m_height = 0;
     std::unique_ptr<RunningProcess> m_process;
+    std::unique_ptr<QSocketNotifier> m_socketNotifier;
     QRect m_damage;
 
     VncEncodingChoice m_choice;
