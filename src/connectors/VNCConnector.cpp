@@ -161,6 +161,7 @@ void VNCConnector::followLink(qint64 now)
             m_meter.addRoundTrip(m_messageStart - m_answeredRequest);
     }
     m_messageStart = -1;
+    m_lastUpdateEnd = now;
     // The library has just sent the next request.
     if (m_openRequest < 0)
         m_openRequest = now;
@@ -246,7 +247,9 @@ bool VNCConnector::initConnection(const Connection& connection)
     m_measured = false;
     m_messageStart = -1;
     m_openRequest = m_answeredRequest = -1;
+    m_lastUpdateEnd = 0;
     m_overlapRequests = false;
+    m_overlapStarted = false;
     m_choice = VncEncodingChoice();
     applyChoice(own ? *own : VncEncodingPolicy::choiceFor(VncLinkClass::Unmeasured));
     qInfo().noquote() << QStringLiteral("VNC encodings \"%1\" compression %2 quality %3%4")
@@ -325,8 +328,15 @@ void VNCConnector::handleEvent()
         m_messageBytes = bytesTaken();
         m_answeredRequest = m_openRequest >= 0 ? m_openRequest : m_messageStart;
         m_openRequest = -1;
-        if (m_overlapRequests && nextMessageIsUpdate() && SendIncrementalFramebufferUpdateRequest(cl))
+        // One request more keeps one frame in flight behind this one. It is sent again only after
+        // a pause of a round trip or more (the server held the requests and answered them with
+        // one update): with updates back to back the count stays, and the server cannot run
+        // ahead of the link and queue frames in front of the next input.
+        const bool paused = m_messageStart - m_lastUpdateEnd > qint64(m_meter.figures().latencyMs * 1000);
+        if (m_overlapRequests && (paused || !m_overlapStarted) && nextMessageIsUpdate() && SendIncrementalFramebufferUpdateRequest(cl)) {
             m_openRequest = now;
+            m_overlapStarted = true;
+        }
     }
     if (ready < 0 || (ready > 0 && !HandleRFBServerMessage(cl))) {
         qWarning() << "VNC server closed the connection";

@@ -106,5 +106,7 @@ private:
     qint64 m_messageBytes = 0;      // bytesTaken() then
     qint64 m_openRequest = -1;      // µs: the first request sent since the last update started
     qint64 m_answeredRequest = -1;  // µs: the request the update being handled answers
-    bool m_overlapRequests = false; // a request goes out as each update starts
+    bool m_overlapRequests = false; // one request more than the library's is kept open
+    bool m_overlapStarted = false;
+    qint64 m_lastUpdateEnd = 0;     // µs
 };
