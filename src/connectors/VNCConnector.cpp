@@ -176,8 +176,8 @@ void VNCConnector::followLink(qint64 now)
                                  .arg(QLatin1String(VncEncodingPolicy::name(m_verdict.linkClass)));
     }
     const VncLinkVerdict verdict = VncEncodingPolicy::judge(m_verdict, figures);
-    // The round trip has been measured: from now on the next request goes out as soon as an
-    // update starts to arrive, so a long round trip does not idle the link between frames.
+    // The round trip has been measured: from now on one request more than the library's is kept
+    // open (see handleEvent), so a long round trip does not idle the link between frames.
     m_overlapRequests = true;
     if (verdict.linkClass == m_verdict.linkClass)
         return;
@@ -344,7 +344,6 @@ void VNCConnector::handleEvent()
         m_socketNotifier.reset(); // a closed socket stays readable
     }
     m_messageStart = -1; // an update has been measured in followLink; other messages are not
-
 }
 
 void VNCConnector::cursorEvent(CursorEvent event)
