@@ -165,7 +165,12 @@ void VNCConnector::followLink(qint64 now)
     // The library has just sent the next request.
     if (m_openRequest < 0)
         m_openRequest = now;
-    if (!m_automatic || !m_meter.ready())
+    if (!m_meter.ready())
+        return;
+    // The round trip has been measured: from now on one request more than the library's is kept
+    // open (see handleEvent), so a long round trip does not idle the link between frames.
+    m_overlapRequests = true;
+    if (!m_automatic)
         return;
     const VncLinkFigures figures = m_meter.figures();
     if (!m_measured) {
@@ -176,9 +181,6 @@ void VNCConnector::followLink(qint64 now)
                                  .arg(QLatin1String(VncEncodingPolicy::name(m_verdict.linkClass)));
     }
     const VncLinkVerdict verdict = VncEncodingPolicy::judge(m_verdict, figures);
-    // The round trip has been measured: from now on one request more than the library's is kept
-    // open (see handleEvent), so a long round trip does not idle the link between frames.
-    m_overlapRequests = true;
     if (verdict.linkClass == m_verdict.linkClass)
         return;
     const VncEncodingChoice choice = VncEncodingPolicy::choiceFor(verdict.linkClass);
