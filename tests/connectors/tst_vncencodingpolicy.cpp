@@ -21,25 +21,25 @@ private slots:
         QTest::addColumn<double>("expectedRefused");
         const int unmeasured = int(VncLinkClass::Unmeasured), slow = int(VncLinkClass::Slow), medium = int(VncLinkClass::Medium),
                   fast = int(VncLinkClass::Fast);
-        // The first figures: slow below 16 Mbit/s, medium from it, the fast class tried from
-        // 30 Mbit/s with a round trip of at most 10 ms.
+        // The first figures: slow below 50 Mbit/s, medium from it, the fast class tried from
+        // 50 Mbit/s with a round trip of at most 10 ms.
         QTest::newRow("first: thin pipe") << unmeasured << 0.0 << 2000.0 << 40.0 << slow << 0.0;
-        QTest::newRow("first: just under medium") << unmeasured << 0.0 << 15999.0 << 20.0 << slow << 0.0;
-        QTest::newRow("first: medium border") << unmeasured << 0.0 << 16000.0 << 20.0 << medium << 0.0;
+        QTest::newRow("first: just under medium") << unmeasured << 0.0 << 49999.0 << 20.0 << slow << 0.0;
+        QTest::newRow("first: medium border") << unmeasured << 0.0 << 50000.0 << 20.0 << medium << 0.0;
         QTest::newRow("first: fast enough, far away") << unmeasured << 0.0 << 500000.0 << 10.1 << medium << 0.0;
-        QTest::newRow("first: fast border") << unmeasured << 0.0 << 30000.0 << 10.0 << fast << 0.0;
-        QTest::newRow("first: just under fast") << unmeasured << 0.0 << 29999.0 << 1.0 << medium << 0.0;
-        QTest::newRow("slow: fast is tried too") << slow << 0.0 << 30000.0 << 1.0 << fast << 0.0;
+        QTest::newRow("first: fast border") << unmeasured << 0.0 << 50000.0 << 10.0 << fast << 0.0;
+        QTest::newRow("first: just under fast") << unmeasured << 0.0 << 49999.0 << 1.0 << slow << 0.0;
+        QTest::newRow("slow: fast is tried too") << slow << 0.0 << 50000.0 << 1.0 << fast << 0.0;
         // Between slow and medium the border moves by a quarter away from the class in use.
-        QTest::newRow("slow stays under 20 Mbit/s") << slow << 0.0 << 19999.0 << 20.0 << slow << 0.0;
-        QTest::newRow("slow becomes medium at 20 Mbit/s") << slow << 0.0 << 20000.0 << 20.0 << medium << 0.0;
-        QTest::newRow("medium stays down to 12.8 Mbit/s") << medium << 0.0 << 12800.0 << 20.0 << medium << 0.0;
-        QTest::newRow("medium becomes slow below") << medium << 0.0 << 12799.0 << 20.0 << slow << 0.0;
+        QTest::newRow("slow stays under 62.5 Mbit/s") << slow << 0.0 << 62499.0 << 20.0 << slow << 0.0;
+        QTest::newRow("slow becomes medium at 62.5 Mbit/s") << slow << 0.0 << 62500.0 << 20.0 << medium << 0.0;
+        QTest::newRow("medium stays down to 40 Mbit/s") << medium << 0.0 << 40000.0 << 20.0 << medium << 0.0;
+        QTest::newRow("medium becomes slow below") << medium << 0.0 << 39999.0 << 20.0 << slow << 0.0;
         // Fast stays while plain pixels arrive at 200 Mbit/s within 12.5 ms.
         QTest::newRow("fast stays") << fast << 0.0 << 200000.0 << 12.5 << fast << 0.0;
         QTest::newRow("fast: too slow for plain pixels") << fast << 0.0 << 199999.0 << 1.0 << medium << 199999.0;
         QTest::newRow("fast: round trip grew") << fast << 0.0 << 900000.0 << 12.6 << medium << 900000.0;
-        QTest::newRow("fast: link collapsed") << fast << 0.0 << 8000.0 << 30.0 << slow << 8000.0;
+        QTest::newRow("fast: link collapsed") << fast << 0.0 << 49999.0 << 30.0 << slow << 49999.0;
         // A link that refused plain pixels is tried again at twice what it carried then, and
         // never under twice what plain pixels need.
         QTest::newRow("refused low: not again") << medium << 90000.0 << 399999.0 << 2.0 << medium << 90000.0;
@@ -76,10 +76,11 @@ private slots:
         QTest::addColumn<double>("latencyMs");
         QTest::addColumn<int>("settled");
         QTest::newRow("wan") << 6000.0 << 5000.0 << 40.0 << int(VncLinkClass::Slow);
-        QTest::newRow("office far away") << 60000.0 << 60000.0 << 12.0 << int(VncLinkClass::Medium);
+        QTest::newRow("office far away") << 90000.0 << 90000.0 << 12.0 << int(VncLinkClass::Medium);
+        QTest::newRow("20 Mbit/s, measured high") << 38000.0 << 38000.0 << 21.0 << int(VncLinkClass::Slow);
         QTest::newRow("lan") << 250000.0 << 900000.0 << 1.0 << int(VncLinkClass::Fast);
         QTest::newRow("100 Mbit/s lan") << 300000.0 << 95000.0 << 1.0 << int(VncLinkClass::Medium);
-        QTest::newRow("near the medium border") << 16000.0 << 15000.0 << 10.0 << int(VncLinkClass::Medium);
+        QTest::newRow("near the medium border") << 50000.0 << 45000.0 << 10.1 << int(VncLinkClass::Medium);
     }
     void steadyLinkSettles()
     {
