@@ -22,7 +22,7 @@ NORBIX_PACKAGES=(
 )
 
 # The peers and tools scripts/bench compares the VNC viewer with.
-NORBIX_BENCH_PACKAGES=(tigervnc-viewer krdc)
+NORBIX_BENCH_PACKAGES=(tigervnc-viewer krdc tigervnc-standalone-server libxtst-dev iproute2)
 
 norbix_install_packages() {
     local missing=()

@@ -2,10 +2,13 @@
 
 #include "Connection.h"
 #include "RemoteConnectionInterface.h"
+#include "VncEncodingPolicy.h"
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QRect>
+#include <QSocketNotifier>
 
 #include <memory>
 
@@ -55,6 +58,10 @@ public:
     // being delivered, the part that frame changed.
     QRect pendingDamage() const override { return m_damage; }
 
+    // The encodings asked of the server now, and the link as measured so far.
+    VncEncodingChoice encodingChoice() const { return m_choice; }
+    VncLinkClass linkClass() const { return m_verdict.linkClass; }
+
 signals:
     // imageReady(QImage) comes from the interface.
     void resize(int width, int height);
@@ -66,6 +73,15 @@ private:
     static signed char mallocFrameBuffer(_rfbClient* client);
     static void gotFrameBufferUpdate(_rfbClient* client, int x, int y, int w, int h);
     static void finishedFrameBufferUpdate(_rfbClient* client);
+    // Bytes of the server's stream taken in by the library so far.
+    qint64 bytesTaken() const;
+    // When the first byte waiting in the socket arrived, on m_clock's scale (µs); `now` if unknown.
+    qint64 arrivalOfWaitingData(qint64 now) const;
+    // Whether the message waiting (in the library's buffer or the socket) is a framebuffer update.
+    bool nextMessageIsUpdate() const;
+    // After each update: the link measured, and the encodings changed when it calls for others.
+    void followLink(qint64 now);
+    void applyChoice(const VncEncodingChoice& choice);
 
     static VNCConnector* m_instance;
     bool m_terminate = false;
@@ -77,5 +93,20 @@ private:
     int m_width = 0;
     int m_height = 0;
     std::unique_ptr<RunningProcess> m_process;
+    std::unique_ptr<QSocketNotifier> m_socketNotifier;
     QRect m_damage;
+
+    VncEncodingChoice m_choice;
+    VncLinkVerdict m_verdict;
+    bool m_automatic = true; // false when the record names its own encodings
+    VncLinkMeter m_meter;
+    bool m_measured = false; // the meter's first figures since the last change have been logged
+    QElapsedTimer m_clock;
+    qint64 m_messageStart = -1;     // µs: when the first byte of the message being handled arrived
+    qint64 m_messageBytes = 0;      // bytesTaken() then
+    qint64 m_openRequest = -1;      // µs: the first request sent since the last update started
+    qint64 m_answeredRequest = -1;  // µs: the request the update being handled answers
+    bool m_overlapRequests = false; // one request more than the library's is kept open
+    bool m_overlapStarted = false;
+    qint64 m_lastUpdateEnd = 0;     // µs
 };

@@ -8,7 +8,10 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QGraphicsView>
+#include <QMutex>
 #include <QProcess>
+#include <QSemaphore>
+#include <QThread>
 #include <QScreen>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -17,6 +20,7 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
+#include <algorithm>
 #include <functional>
 
 // The viewer against real servers on 127.0.0.1, under the X server this test runs in: the project's
@@ -155,11 +159,11 @@ Connection vncRecord(const QString& address, const QString& password, int percen
 // An X server of its own for x11vnc to serve; it tells its display number through a pipe.
 class SecondDisplay {
 public:
-    bool start()
+    bool start(const QString& geometry = QStringLiteral("320x240x24"))
     {
         m_process.setProgram(QStringLiteral("Xvfb"));
         m_process.setArguments({QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-                                QStringLiteral("320x240x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                                geometry, QStringLiteral("-nolisten"), QStringLiteral("tcp"),
                                 // what the test draws must outlive its own connection
                                 QStringLiteral("-noreset")});
         m_process.start();
@@ -224,6 +228,242 @@ public:
 private:
     Display* m_display;
 };
+
+// What the relay saw, read by the test's thread.
+struct RelayRecord {
+    QMutex lock;
+    QList<QVector<qint32>> encodings;
+    QString error;
+};
+
+// Between the viewer and a server: passes the server's bytes on, at a limited rate when asked
+// (a slow link), and reads the viewer's messages, keeping the encoding list of every SetEncodings.
+class RecordingRelay : public QObject {
+public:
+    RecordingRelay(quint16 target, qint64 bytesPerSecond, RelayRecord* record) : m_target(target), m_rate(bytesPerSecond), m_record(record)
+    {
+        m_listener.listen(QHostAddress::LocalHost, 0);
+        connect(&m_listener, &QTcpServer::newConnection, this, &RecordingRelay::accept);
+        m_pump.setInterval(20);
+        connect(&m_pump, &QTimer::timeout, this, &RecordingRelay::pump);
+    }
+    quint16 port() const { return m_listener.serverPort(); }
+
+private:
+    void accept()
+    {
+        QTcpSocket* client = m_listener.nextPendingConnection();
+        if (m_client) { // the viewer's reachability check came first: only the last one counts
+            m_client->deleteLater();
+            m_upstream->deleteLater();
+        }
+        m_client = client;
+        m_upstream = new QTcpSocket(this);
+        m_clientStream.clear();
+        m_toClient.clear();
+        m_stage = 0;
+        m_upstream->connectToHost(QHostAddress::LocalHost, m_target);
+        connect(m_client, &QTcpSocket::readyRead, this, [this, client] {
+            if (client == m_client)
+                fromClient();
+        });
+        connect(m_upstream, &QTcpSocket::readyRead, this, [this, upstream = m_upstream] {
+            if (upstream == m_upstream) {
+                m_toClient += m_upstream->readAll();
+                if (!m_rate)
+                    pump();
+            }
+        });
+        m_clock.start();
+        m_sent = 0;
+        if (m_rate)
+            m_pump.start();
+    }
+    void pump()
+    {
+        if (!m_client || m_toClient.isEmpty())
+            return;
+        qint64 allowed = m_toClient.size();
+        if (m_rate)
+            allowed = std::min<qint64>(allowed, m_rate * m_clock.elapsed() / 1000 - m_sent);
+        if (allowed <= 0)
+            return;
+        m_client->write(m_toClient.left(int(allowed)));
+        m_toClient.remove(0, int(allowed));
+        m_sent += allowed;
+    }
+    void fromClient()
+    {
+        const QByteArray data = m_client->readAll();
+        m_upstream->write(data);
+        m_clientStream += data;
+        parse();
+    }
+    static quint32 be(const QByteArray& data, int at, int size)
+    {
+        quint32 value = 0;
+        for (int i = 0; i < size; ++i)
+            value = value << 8 | quint8(data.at(at + i));
+        return value;
+    }
+    // The handshake (version, security type, a VNC password answer, ClientInit), then messages.
+    void parse()
+    {
+        for (;;) {
+            const int have = m_clientStream.size();
+            int used = 0;
+            if (m_stage == 0 && have >= 12)
+                used = 12, m_stage = 1;
+            else if (m_stage == 1 && have >= 1)
+                used = 1, m_stage = m_clientStream.at(0) == 2 ? 2 : 3;
+            else if (m_stage == 2 && have >= 16)
+                used = 16, m_stage = 3;
+            else if (m_stage == 3 && have >= 1)
+                used = 1, m_stage = 4;
+            else if (m_stage == 4 && have >= 1)
+                used = messageLength();
+            if (used <= 0 || used > m_clientStream.size())
+                return;
+            if (m_stage == 4 && m_clientStream.at(0) == 2) {
+                QVector<qint32> list;
+                for (int i = 0; i < int(be(m_clientStream, 2, 2)); ++i)
+                    list << qint32(be(m_clientStream, 4 + 4 * i, 4));
+                QMutexLocker locked(&m_record->lock);
+                m_record->encodings << list;
+            }
+            m_clientStream.remove(0, used);
+        }
+    }
+    // The length of the message at the start of the stream; 0 while its length is not known yet.
+    int messageLength()
+    {
+        const QByteArray& s = m_clientStream;
+        switch (quint8(s.at(0))) {
+        case 0:
+            return 20;
+        case 2:
+            return s.size() >= 4 ? 4 + 4 * int(be(s, 2, 2)) : 0;
+        case 3:
+            return 10;
+        case 4:
+            return 8;
+        case 5:
+            return 6;
+        case 6:
+            return s.size() >= 8 ? 8 + int(be(s, 4, 4)) : 0;
+        default:
+            QMutexLocker locked(&m_record->lock);
+            if (m_record->error.isEmpty())
+                m_record->error = QStringLiteral("unknown client message %1").arg(quint8(s.at(0)));
+            m_stage = 5; // nothing more can be read
+            return 0;
+        }
+    }
+
+    QTcpServer m_listener;
+    quint16 m_target;
+    qint64 m_rate;
+    QTcpSocket* m_client = nullptr;
+    QTcpSocket* m_upstream = nullptr;
+    QByteArray m_clientStream, m_toClient;
+    int m_stage = 0;
+    QTimer m_pump;
+    QElapsedTimer m_clock;
+    qint64 m_sent = 0;
+    RelayRecord* m_record;
+};
+
+// The relay runs on a thread of its own: the viewer holds the main thread, and its handshake
+// blocks it.
+class RelayThread : public QThread {
+public:
+    RelayThread(quint16 target, qint64 bytesPerSecond) : m_target(target), m_rate(bytesPerSecond) {}
+    ~RelayThread() override
+    {
+        quit();
+        wait();
+    }
+    quint16 begin()
+    {
+        start();
+        m_ready.acquire();
+        return m_port;
+    }
+    QList<QVector<qint32>> encodings()
+    {
+        QMutexLocker locked(&m_record.lock);
+        return m_record.encodings;
+    }
+    QString error()
+    {
+        QMutexLocker locked(&m_record.lock);
+        return m_record.error;
+    }
+
+protected:
+    void run() override
+    {
+        RecordingRelay relay(m_target, m_rate, &m_record);
+        m_port = relay.port();
+        m_ready.release();
+        exec();
+    }
+
+private:
+    quint16 m_target;
+    qint64 m_rate;
+    quint16 m_port = 0;
+    QSemaphore m_ready;
+    RelayRecord m_record;
+};
+
+// A new picture of noise over the whole root window of `display`: costly to encode, as a
+// photograph or a video is.
+bool drawNoise(const QString& display, quint32 seed)
+{
+    Display* x = XOpenDisplay(display.toLatin1().constData());
+    if (!x)
+        return false;
+    const int screen = DefaultScreen(x);
+    const int width = DisplayWidth(x, screen), height = DisplayHeight(x, screen);
+    QImage noise(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y) {
+        auto* row = reinterpret_cast<quint32*>(noise.scanLine(y));
+        for (int px = 0; px < width; ++px) {
+            seed = seed * 1103515245u + 12345u;
+            row[px] = seed >> 8;
+        }
+    }
+    XImage* image = XCreateImage(x, DefaultVisual(x, screen), 24, ZPixmap, 0, reinterpret_cast<char*>(noise.bits()), width, height, 32,
+                                 noise.bytesPerLine());
+    GC gc = XCreateGC(x, RootWindow(x, screen), 0, nullptr);
+    XPutImage(x, RootWindow(x, screen), gc, image, 0, 0, 0, 0, width, height);
+    XSync(x, False);
+    image->data = nullptr; // the QImage owns the pixels
+    XDestroyImage(image);
+    XFreeGC(x, gc);
+    XCloseDisplay(x);
+    return true;
+}
+
+// The real encodings by the numbers of the protocol: pseudo-encodings (negative) left out.
+QVector<qint32> realEncodings(const QVector<qint32>& list)
+{
+    QVector<qint32> real;
+    for (qint32 encoding : list)
+        if (encoding >= 0 && encoding < 64)
+            real << encoding;
+    return real;
+}
+
+// The JPEG quality (0-9) a list asks for, -1 without one; the same for the compression level.
+int pseudoLevel(const QVector<qint32>& list, qint32 zero)
+{
+    for (qint32 encoding : list)
+        if (encoding >= zero && encoding <= zero + 9)
+            return encoding - zero;
+    return -1;
+}
 
 } // namespace
 
@@ -484,6 +724,117 @@ private slots:
         QTest::qWait(50); // the toolkit's own connection sends the destruction
         QVERIFY(!presenter.present(gone, frame, frame.rect(), QPoint()));
         QVERIFY(presenter.present(window.winId(), frame, frame.rect(), QPoint()));
+    }
+
+    // The viewer measures the link and asks for encodings to suit it, as the server sees them on
+    // the wire: compact ones over a slow link, plain pixels tried on loopback, and a connection's
+    // own choice sent once and kept.
+    void encodingChoice_data()
+    {
+        QTest::addColumn<int>("bytesPerSecond"); // 0: as fast as loopback goes
+        QTest::addColumn<QString>("ownEncodings");
+        QTest::addColumn<QString>("which"); // the list checked: "last", "any" or "only" (the one sent)
+        QTest::addColumn<QVector<qint32>>("expected");
+        QTest::addColumn<int>("quality");
+        QTest::addColumn<int>("compression");
+        QTest::newRow("slow link") << 125000 << QString() << "last" << QVector<qint32>{1, 7, 16, 9, 6, 5, 4, 2, 0} << 6 << 6;
+        QTest::newRow("loopback") << 0 << QString() << "any" << QVector<qint32>{1, 0, 5, 6} << -1 << 1;
+        QTest::newRow("the connection's own") << 125000 << "tight hextile" << "only" << QVector<qint32>{7, 5} << 4 << 3;
+    }
+    void encodingChoice()
+    {
+        QFETCH(int, bytesPerSecond);
+        QFETCH(QString, ownEncodings);
+        QFETCH(QString, which);
+        QFETCH(QVector<qint32>, expected);
+        QFETCH(int, quality);
+        QFETCH(int, compression);
+
+        // libvncclient counts every wait for more data of one read against its time-out, progress
+        // or not: a large rectangle trickling in over a slow link needs the viewer's usual limit.
+        VNCConnector::setNetworkTimeout(30);
+        struct Restore {
+            ~Restore() { VNCConnector::setNetworkTimeout(2); }
+        } restore;
+        SecondDisplay display;
+        QVERIFY2(display.start(QStringLiteral("640x480x24")), "Xvfb did not start");
+        QVERIFY(drawNoise(display.name(), 1));
+        const quint16 port = freeLocalPort();
+        QProcess vnc;
+        vnc.setProcessChannelMode(QProcess::MergedChannels);
+        vnc.start(QStringLiteral("x11vnc"), {QStringLiteral("-display"), display.name(), QStringLiteral("-rfbport"), QString::number(port),
+                                             QStringLiteral("-localhost"), QStringLiteral("-nopw"), QStringLiteral("-forever"),
+                                             QStringLiteral("-shared"), QStringLiteral("-noxdamage"), QStringLiteral("-nocursor"),
+                                             QStringLiteral("-defer"), QStringLiteral("1"), QStringLiteral("-wait"), QStringLiteral("5")});
+        QVERIFY2(vnc.waitForStarted(5000), "x11vnc is missing");
+        QElapsedTimer clock;
+        clock.start();
+        QByteArray log;
+        while (!log.contains("PORT=") && clock.elapsed() < 15000) {
+            vnc.waitForReadyRead(100);
+            log += vnc.readAll();
+        }
+        QVERIFY2(log.contains("PORT="), log.constData());
+        RelayThread relay(port, bytesPerSecond);
+        const quint16 relayPort = relay.begin();
+        QVERIFY(relayPort);
+
+        auto matches = [&](const QVector<qint32>& list) {
+            return realEncodings(list) == expected && pseudoLevel(list, -32) == quality && pseudoLevel(list, -256) == compression;
+        };
+        quint32 seed = 2;
+        QElapsedTimer lastPicture;
+        int pictures = 0;
+        SessionScript script;
+        script.add("the viewer window", [&] {
+            ViewDialog* viewer = openViewer();
+            return viewer && !viewer->lastFrame().isNull();
+        });
+        script.add("the encodings", [&] {
+            // A new picture every 300 ms keeps updates coming for the viewer to measure.
+            if (!lastPicture.isValid() || lastPicture.elapsed() > 300) {
+                drawNoise(display.name(), seed++);
+                lastPicture.start();
+                ++pictures;
+            }
+            const QList<QVector<qint32>> lists = relay.encodings();
+            if (which == QLatin1String("any"))
+                return std::any_of(lists.cbegin(), lists.cend(), matches);
+            if (which == QLatin1String("only"))
+                return pictures > 12;
+            return lists.size() >= 2 && VNCConnector::getInstance()->linkClass() == VncLinkClass::Slow;
+        });
+        script.start(30000);
+        Connection record = vncRecord(QStringLiteral("127.0.0.1:%1").arg(relayPort), {}, 100);
+        if (!ownEncodings.isEmpty()) {
+            QJsonObject data = record.getData();
+            data.insert(QStringLiteral("encodings"), ownEncodings);
+            data.insert(QStringLiteral("compressLevel"), compression);
+            data.insert(QStringLiteral("qualityLevel"), quality);
+            record.setData(data);
+        }
+        const bool opened = VNCConnector::getInstance()->initConnection(record);
+        vnc.terminate();
+        vnc.waitForFinished(3000);
+        QStringList sent;
+        for (const QVector<qint32>& list : relay.encodings()) {
+            QStringList numbers;
+            for (qint32 encoding : list)
+                numbers << QString::number(encoding);
+            sent << numbers.join(QLatin1Char(' '));
+        }
+        const QString lists = QStringLiteral("\nSetEncodings sent: ") + sent.join(QStringLiteral(" | "));
+        QVERIFY2(script.failure().isEmpty(), qPrintable(script.failure() + lists + QStringLiteral("\n") + relay.error()));
+        QVERIFY(opened);
+        QVERIFY2(relay.error().isEmpty(), qPrintable(relay.error()));
+        const QList<QVector<qint32>> received = relay.encodings();
+        QVERIFY(!received.isEmpty());
+        if (which == QLatin1String("last"))
+            QVERIFY2(matches(received.last()), qPrintable(lists));
+        if (which == QLatin1String("only")) {
+            QCOMPARE(received.size(), 1);
+            QVERIFY2(matches(received.first()), qPrintable(lists));
+        }
     }
 
     // x11vnc serving another X server: the viewer's frame is that display's content, pixel for pixel.
