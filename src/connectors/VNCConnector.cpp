@@ -26,6 +26,9 @@
 #include <sys/socket.h>
 #include <time.h>
 
+// The TurboJPEG decoder libvncclient carries and exports (no header of its own is installed).
+extern "C" int tjDestroy(void* handle);
+
 VNCConnector* VNCConnector::m_instance = nullptr;
 QByteArray VNCConnector::m_password;
 QImage VNCConnector::m_image;
@@ -364,8 +367,15 @@ void VNCConnector::sendKey(KeyEvent event)
 void VNCConnector::terminate()
 {
     m_socketNotifier.reset(); // before the library closes its socket
-    if (cl)
+    if (cl) {
+        // This libvncclient (0.9.14) makes a JPEG decoder for the first Tight JPEG rectangle and
+        // does not free it in its cleanup; a later one that does finds it already gone.
+        if (cl->tjhnd) {
+            tjDestroy(cl->tjhnd);
+            cl->tjhnd = nullptr;
+        }
         rfbClientCleanup(cl);
+    }
     cl = nullptr; // input that arrives after the window closed must not reach a freed client
 }
 

@@ -1,6 +1,5 @@
 #include "AssistanceTunnels.h"
 #include "CommandRunner.h"
-#include "FakeCommandRunner.h"
 #include "LanguageBackend.h"
 #include "QmlRegistration.h"
 #include "SimulatedNetwork.h"
@@ -298,16 +297,14 @@ private slots:
         QCOMPARE(nmcli({"radio", "wifi", "off"}), 0);
         QVERIFY(refreshNetworkStatus(window, 0));
         look(window, shots, QStringLiteral("main-no-network"), failures);
-        {
-            FakeCommandRunner tunnels; // a tunnel that runs until it is told to end
-            QVERIFY(AssistanceTunnels::getInstance()->start("/opt/norbix/tools/tunnel", {"--token", "t"}));
-            QTest::qWait(50);
-            look(window, shots, QStringLiteral("main-assistance"), failures);
-            AssistanceTunnels::getInstance()->endAssistance();
-            QVERIFY(!AssistanceTunnels::getInstance()->isActive());
-            // The ended tunnel's process object goes before the runner it came from.
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        }
+        // The simulated terminal's tunnel runs until it is ended.
+        QVERIFY(AssistanceTunnels::getInstance()->start(
+                "/opt/norbix/tools/tunnel", {"--src", "mgmt.example:4443", "--dst", "127.0.0.1:5900", "--token", "t"}));
+        QTest::qWait(50);
+        QVERIFY(AssistanceTunnels::getInstance()->isActive());
+        look(window, shots, QStringLiteral("main-assistance"), failures);
+        AssistanceTunnels::getInstance()->endAssistance();
+        QVERIFY(!AssistanceTunnels::getInstance()->isActive());
         // Popups opened by a page stay until the next page; close everything before the engine goes.
         QVERIFY(QMetaObject::invokeMethod(window, "openPage", Q_ARG(QVariant, QStringLiteral("main"))));
         QCoreApplication::processEvents();
