@@ -465,6 +465,28 @@ int pseudoLevel(const QVector<qint32>& list, qint32 zero)
     return -1;
 }
 
+// x11vnc serving `display` on 127.0.0.1:`port` without a password, up once it names its port.
+// Its output so far is left in `log` (the reason when it did not come up).
+bool startX11vnc(QProcess& vnc, const QString& display, quint16 port, const QStringList& extra, QByteArray* log)
+{
+    vnc.setProcessChannelMode(QProcess::MergedChannels);
+    vnc.start(QStringLiteral("x11vnc"), QStringList{QStringLiteral("-display"), display, QStringLiteral("-rfbport"), QString::number(port),
+                                                    QStringLiteral("-localhost"), QStringLiteral("-nopw"), QStringLiteral("-forever"),
+                                                    QStringLiteral("-shared"), QStringLiteral("-noxdamage"), QStringLiteral("-nocursor")}
+                                                 + extra);
+    if (!vnc.waitForStarted(5000)) {
+        *log = "x11vnc is missing";
+        return false;
+    }
+    QElapsedTimer clock;
+    clock.start();
+    while (!log->contains("PORT=") && clock.elapsed() < 15000) {
+        vnc.waitForReadyRead(100);
+        *log += vnc.readAll();
+    }
+    return log->contains("PORT=");
+}
+
 } // namespace
 
 class tst_VncServers : public QObject {
@@ -761,20 +783,9 @@ private slots:
         QVERIFY(drawNoise(display.name(), 1));
         const quint16 port = freeLocalPort();
         QProcess vnc;
-        vnc.setProcessChannelMode(QProcess::MergedChannels);
-        vnc.start(QStringLiteral("x11vnc"), {QStringLiteral("-display"), display.name(), QStringLiteral("-rfbport"), QString::number(port),
-                                             QStringLiteral("-localhost"), QStringLiteral("-nopw"), QStringLiteral("-forever"),
-                                             QStringLiteral("-shared"), QStringLiteral("-noxdamage"), QStringLiteral("-nocursor"),
-                                             QStringLiteral("-defer"), QStringLiteral("1"), QStringLiteral("-wait"), QStringLiteral("5")});
-        QVERIFY2(vnc.waitForStarted(5000), "x11vnc is missing");
-        QElapsedTimer clock;
-        clock.start();
         QByteArray log;
-        while (!log.contains("PORT=") && clock.elapsed() < 15000) {
-            vnc.waitForReadyRead(100);
-            log += vnc.readAll();
-        }
-        QVERIFY2(log.contains("PORT="), log.constData());
+        QVERIFY2(startX11vnc(vnc, display.name(), port, {QStringLiteral("-defer"), QStringLiteral("1"), QStringLiteral("-wait"), QStringLiteral("5")}, &log),
+                 log.constData());
         RelayThread relay(port, bytesPerSecond);
         const quint16 relayPort = relay.begin();
         QVERIFY(relayPort);
@@ -863,20 +874,8 @@ private slots:
 
         const quint16 port = freeLocalPort();
         QProcess vnc;
-        vnc.setProcessChannelMode(QProcess::MergedChannels);
-        vnc.start(QStringLiteral("x11vnc"), {QStringLiteral("-display"), display.name(), QStringLiteral("-rfbport"), QString::number(port),
-                                             QStringLiteral("-localhost"), QStringLiteral("-nopw"), QStringLiteral("-forever"),
-                                             QStringLiteral("-shared"), QStringLiteral("-noxdamage"),
-                                             QStringLiteral("-nocursor")});
-        QVERIFY2(vnc.waitForStarted(5000), "x11vnc is missing");
-        QElapsedTimer clock;
-        clock.start();
         QByteArray log;
-        while (!log.contains("PORT=") && clock.elapsed() < 15000) {
-            vnc.waitForReadyRead(100);
-            log += vnc.readAll();
-        }
-        QVERIFY2(log.contains("PORT="), log.constData());
+        QVERIFY2(startX11vnc(vnc, display.name(), port, {}, &log), log.constData());
 
         QString mismatch = QStringLiteral("no frame");
         SessionScript script;
