@@ -7,24 +7,62 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 
-bool chooseSceneGraphBackend()
-{
-    if (!qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") || !qEnvironmentVariableIsEmpty("QMLSCENE_DEVICE"))
-        return false;
+namespace {
 
-    const QString platform = QGuiApplication::platformName();
-    bool openGlWorks = platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
-    if (openGlWorks) {
-        QOpenGLContext context;
-        QOffscreenSurface surface;
-        surface.create();
-        openGlWorks = context.create() && surface.isValid() && context.makeCurrent(&surface);
-        if (openGlWorks)
-            context.doneCurrent();
+bool openGlContextWorks()
+{
+    QOpenGLContext context;
+    QOffscreenSurface surface;
+    surface.create();
+    const bool works = context.create() && surface.isValid() && context.makeCurrent(&surface);
+    if (works)
+        context.doneCurrent();
+    return works;
+}
+
+} // namespace
+
+SceneGraphBackendProbe::~SceneGraphBackendProbe()
+{
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+void SceneGraphBackendProbe::start()
+{
+    m_started = true;
+    if (!qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") || !qEnvironmentVariableIsEmpty("QMLSCENE_DEVICE")) {
+        m_decided = true;
+        return;
     }
-    if (openGlWorks)
-        return false;
-    qInfo() << "No usable OpenGL on" << platform << "- using the software renderer";
+    const QString platform = QGuiApplication::platformName();
+    if (platform == QLatin1String("offscreen") || platform == QLatin1String("minimal"))
+        return;
+    // X11 makes offscreen surfaces from pbuffers and lets any thread use the display (Qt's own
+    // render thread does), so the check need not hold up the GUI thread there.
+    if (platform == QLatin1String("xcb"))
+        m_thread = std::thread([this] { m_openGlWorks = openGlContextWorks(); });
+    else
+        m_openGlWorks = openGlContextWorks();
+}
+
+bool SceneGraphBackendProbe::finish()
+{
+    if (!m_started)
+        start();
+    if (m_thread.joinable())
+        m_thread.join();
+    if (m_decided || m_openGlWorks)
+        return m_software;
+    m_decided = m_software = true;
+    qInfo() << "No usable OpenGL on" << QGuiApplication::platformName() << "- using the software renderer";
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     return true;
+}
+
+bool chooseSceneGraphBackend()
+{
+    SceneGraphBackendProbe probe;
+    probe.start();
+    return probe.finish();
 }

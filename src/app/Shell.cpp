@@ -33,10 +33,12 @@
 #include <QFontDatabase>
 #include <QLocale>
 #include <QQmlApplicationEngine>
+#include <QQmlComponent>
 #include <QQmlContext>
 #include <QSettings>
 
 #include <cstdio>
+#include <malloc.h>
 
 namespace {
 
@@ -127,12 +129,15 @@ int runShell(int argc, char* argv[])
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("norbix-shell"));
     QApplication::setApplicationVersion(QString::fromLatin1(kVersion));
-    chooseSceneGraphBackend();
+    // Made before the renderer check starts: the engine starts threads, and a new thread waits
+    // while the check loads the GL driver.
+    QQmlApplicationEngine engine;
+    SceneGraphBackendProbe renderer;
+    renderer.start();
 
     loadFont();
     loadTranslation(app);
 
-    QQmlApplicationEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/custom"));
     LanguageBackend::getInstance()->setEngine(&engine);
     LanguageBackend::getInstance()->asyncRead();
@@ -167,7 +172,11 @@ int runShell(int argc, char* argv[])
     qInfo().noquote() << "Computer name " + api->getId();
     engine.rootContext()->setContextProperty(QStringLiteral("apiInstance"), api);
 
-    engine.load(QUrl(QStringLiteral("qrc:/vorplex/Main.qml")));
+    // The screens' types load while the renderer check runs; the window is made after it.
+    const QUrl mainScreen(QStringLiteral("qrc:/vorplex/Main.qml"));
+    const QQmlComponent preloaded(&engine, mainScreen);
+    renderer.finish();
+    engine.load(mainScreen);
     // The root screen is on screen before any session starts: an auto-connected viewer that does
     // not cover the whole screen has the home screen around it, not an empty display.
     std::unique_ptr<WindowPresenter> presenter;
@@ -177,7 +186,19 @@ int runShell(int argc, char* argv[])
         return 3; // nothing to grab
     TeamsConnector::runThread();
     ConnectionManager::getInstance()->performAutoconnect();
-    TrayIcon trayIcon;
+    // What the first frame does not need waits until the user sees the screen: the tray icon (it
+    // asks the desktop over D-Bus), and handing back to the system what start-up freed.
+    std::unique_ptr<TrayIcon> trayIcon;
+    const auto afterFirstFrame = [&trayIcon] {
+        if (trayIcon)
+            return;
+        trayIcon = std::make_unique<TrayIcon>();
+        malloc_trim(0);
+    };
+    if (presenter)
+        QObject::connect(presenter.get(), &WindowPresenter::firstFrameShown, &app, afterFirstFrame);
+    else
+        afterFirstFrame();
 
     const int status = app.exec();
     api->shutdown();

@@ -28,8 +28,7 @@ WindowPresenter::WindowPresenter(QObject* root, const ShellOptions& options, QOb
         m_deadline.setInterval(8000);
         connect(&m_deadline, &QTimer::timeout, this, &WindowPresenter::saveScreenshot);
     }
-    if (!options.screenshotFile.isEmpty() || options.firstFrameMarker)
-        connect(m_window, &QQuickWindow::frameSwapped, this, &WindowPresenter::onFrameSwapped);
+    connect(m_window, &QQuickWindow::frameSwapped, this, &WindowPresenter::onFrameSwapped);
 
     if (options.size.isValid()) {
         m_window->resize(options.size);
@@ -52,6 +51,9 @@ void WindowPresenter::onFrameSwapped()
         }
         if (!m_options.screenshotFile.isEmpty())
             m_deadline.start();
+        else
+            disconnect(m_window, &QQuickWindow::frameSwapped, this, &WindowPresenter::onFrameSwapped);
+        emit firstFrameShown();
     }
     if (!m_options.screenshotFile.isEmpty())
         m_settle.start();

@@ -9,11 +9,14 @@
 class QQuickWindow;
 
 // Shows the root window (full screen, or at --size) and serves --page, --screenshot and
-// --first-frame-marker.
+// --first-frame-marker. firstFrameShown() tells the rest of start-up that the user sees the screen.
 class WindowPresenter : public QObject {
     Q_OBJECT
 public:
     WindowPresenter(QObject* root, const ShellOptions& options, QObject* parent = nullptr);
+
+signals:
+    void firstFrameShown();
 
 private:
     void onFrameSwapped();
