@@ -11,7 +11,7 @@ NORBIX_PACKAGES=(
     qml-module-qtquick-layouts qml-module-qtqml-models2 qml-module-qtquick-shapes
     libssl-dev openssl libvncserver-dev libxdamage-dev libxcb-shm0-dev
     xvfb xauth x11-xserver-utils
-    freerdp2-x11 freerdp2-shadow-x11 winpr-utils x11vnc
+    freerdp2-x11 freerdp2-shadow-x11 winpr-utils x11vnc tigervnc-standalone-server
     python3 python3-websockets
     xserver-xorg-core xserver-xorg-video-dummy xautolock psmisc procps tzdata
     network-manager python3-dbusmock iputils-ping iw

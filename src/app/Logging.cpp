@@ -85,9 +85,36 @@ void deleteoldfiles(int days)
         last = {days, today, folder.st_mtim};
 }
 
+namespace {
+
+// The switch as debug messages see it. They can come once a frame (a VNC session logs every
+// update): the file is read again only when it is another file or has changed, not per message.
+bool debugWanted()
+{
+    static struct {
+        bool known = false;
+        bool enabled = false;
+        ino_t inode = 0;
+        off_t size = 0;
+        timespec changed{};
+    } last;
+    struct stat file {};
+    if (::stat(QFile::encodeName(SystemPaths::dataFile(QStringLiteral("api.ini"))).constData(), &file) != 0)
+        file = {};
+    if (last.known && last.inode == file.st_ino && last.size == file.st_size && last.changed.tv_sec == file.st_mtim.tv_sec
+        && last.changed.tv_nsec == file.st_mtim.tv_nsec)
+        return last.enabled;
+    last = {true, Logging::debugEnabled(), file.st_ino, file.st_size, file.st_mtim};
+    return last.enabled;
+}
+
+} // namespace
+
 void customMessageOutput(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     QMutexLocker locker(&g_logMutex);
+    if (type == QtDebugMsg && !debugWanted())
+        return;
 
     const QDateTime now = QDateTime::currentDateTime();
     const QByteArray stamp = now.toString(QStringLiteral("dd.MM.yy hh:mm:ss.zzz")).toUtf8();
@@ -116,13 +143,9 @@ void customMessageOutput(QtMsgType type, const QMessageLogContext& context, cons
 
     switch (type) {
     case QtDebugMsg:
-        if (Logging::debugEnabled()) {
-            std::fprintf(stdout, "[%s] [%s@%u] [DEBUG] %s\n", stamp.constData(), function.constData(), line, text.constData());
-            std::fflush(stdout);
-            out << prefix << message << Qt::endl;
-        } else {
-            out << "";
-        }
+        std::fprintf(stdout, "[%s] [%s@%u] [DEBUG] %s\n", stamp.constData(), function.constData(), line, text.constData());
+        std::fflush(stdout);
+        out << prefix << message << Qt::endl;
         break;
     case QtInfoMsg:
         console(stdout, "INFO");

@@ -3,6 +3,7 @@
 #include "CommandRunner.h"
 #include "QmlSingleton.h"
 #include "ViewDialog.h"
+#include "VncFlow.h"
 #include "VncInput.h"
 #include "X11ShmPresenter.h"
 
@@ -63,6 +64,55 @@ void ignoreLedState(rfbClient*, int, int) {}
 void ignoreTextChat(rfbClient*, int, char*) {}
 } // namespace
 
+void VNCConnector::registerFlowMessages()
+{
+    // The library keeps one list of extensions for every client; this one is added once.
+    static int encodings[] = {VncFlow::kPseudoEncodingFence, VncFlow::kPseudoEncodingContinuousUpdates, 0};
+    static rfbClientProtocolExtension extension = [] {
+        rfbClientProtocolExtension e{};
+        e.encodings = encodings;
+        e.handleMessage = [](rfbClient* client, rfbServerToClientMsg* message) {
+            return VNCConnector::handleFlowMessage(client, message->type);
+        };
+        return e;
+    }();
+    static const bool registered = (rfbClientRegisterExtension(&extension), true);
+    Q_UNUSED(registered);
+}
+
+rfbBool VNCConnector::handleFlowMessage(rfbClient* client, uint8_t type)
+{
+    VNCConnector* self = getInstance();
+    if (type == VncFlow::kContinuousUpdatesMessage) {
+        // Sent once to say the server has them, and again whenever it stops sending them: they
+        // are asked for (again) after the next update (see followLink).
+        if (!self->m_continuousOffered)
+            qInfo() << "VNC server offers continuous updates";
+        self->m_continuousOffered = true;
+        self->m_continuousOn = false;
+        return TRUE;
+    }
+    if (type != VncFlow::kFenceMessage)
+        return FALSE;
+    QByteArray header(VncFlow::kFenceHeaderSize, '\0');
+    if (!ReadFromRFBServer(client, header.data(), header.size()))
+        return FALSE;
+    const std::optional<VncFlow::FenceHeader> fence = VncFlow::parseFenceHeader(header);
+    if (!fence) {
+        qWarning() << "VNC server sent a fence longer than the protocol allows";
+        return FALSE;
+    }
+    QByteArray payload(fence->payloadLength, '\0');
+    if (!payload.isEmpty() && !ReadFromRFBServer(client, payload.data(), payload.size()))
+        return FALSE;
+    // Messages are handled in the order they come, so what the fence waits for is already done.
+    if (fence->flags & VncFlow::kFenceRequest) {
+        const QByteArray answer = VncFlow::fenceAnswer(fence->flags, payload);
+        return WriteToRFBServer(client, answer.constData(), answer.size());
+    }
+    return TRUE; // the answer to a fence of ours: this viewer sends none
+}
+
 char* VNCConnector::getPassword(rfbClient*)
 {
     // The library frees what it gets.
@@ -75,6 +125,7 @@ rfbBool VNCConnector::mallocFrameBuffer(rfbClient* client)
     m_image = X11ShmPresenter::instance().allocateFrame(QSize(client->width, client->height));
     client->frameBuffer = m_image.bits();
     getInstance()->m_damage = m_image.rect();
+    getInstance()->m_continuousOn = false; // asked for again over the new size
     return TRUE;
 }
 
@@ -173,6 +224,7 @@ void VNCConnector::followLink(qint64 now)
     // The round trip has been measured: from now on one request more than the library's is kept
     // open (see handleEvent), so a long round trip does not idle the link between frames.
     m_overlapRequests = true;
+    followContinuous();
     if (!m_automatic)
         return;
     const VncLinkFigures figures = m_meter.figures();
@@ -198,6 +250,24 @@ void VNCConnector::followLink(qint64 now)
     m_meter.restartThroughput();
     m_measured = false;
     applyChoice(choice);
+    followContinuous();
+}
+
+void VNCConnector::followContinuous()
+{
+    // Over a network the server sends what changes as it changes, paced by its fences, and the
+    // library's requests after each update are then ignored. On a LAN fast enough for plain pixels
+    // request and answer cost next to nothing, and they keep the link measurable: updates that
+    // stream in as the server makes them would show its speed, not the link's.
+    const bool wanted = m_continuousOffered && (!m_automatic || m_verdict.linkClass == VncLinkClass::Slow
+                                                || m_verdict.linkClass == VncLinkClass::Medium);
+    if (!cl || wanted == m_continuousOn)
+        return;
+    const QByteArray message = VncFlow::enableContinuousUpdates(wanted, QRect(0, 0, cl->width, cl->height));
+    if (!WriteToRFBServer(cl, message.constData(), message.size()))
+        return;
+    m_continuousOn = wanted;
+    qInfo() << (wanted ? "VNC continuous updates on" : "VNC continuous updates off");
 }
 
 void VNCConnector::applyChoice(const VncEncodingChoice& choice)
@@ -255,6 +325,7 @@ bool VNCConnector::initConnection(const Connection& connection)
     m_lastUpdateEnd = 0;
     m_overlapRequests = false;
     m_overlapStarted = false;
+    m_continuousOffered = m_continuousOn = false;
     m_choice = VncEncodingChoice();
     applyChoice(own ? *own : VncEncodingPolicy::choiceFor(VncLinkClass::Unmeasured));
     qInfo().noquote() << QStringLiteral("VNC encodings \"%1\" compression %2 quality %3%4")
@@ -263,6 +334,7 @@ bool VNCConnector::initConnection(const Connection& connection)
                              .arg(m_choice.qualityLevel)
                              .arg(own ? QStringLiteral(" (the connection's own)") : QStringLiteral(", until the link is measured"));
 
+    registerFlowMessages();
     cl->MallocFrameBuffer = &VNCConnector::mallocFrameBuffer;
     cl->GotFrameBufferUpdate = &VNCConnector::gotFrameBufferUpdate;
     cl->FinishedFrameBufferUpdate = &VNCConnector::finishedFrameBufferUpdate;
@@ -326,7 +398,9 @@ void VNCConnector::handleEvent()
     } else if (ready == 0) {
         ready = WaitForMessage(cl, 10000); // µs
     }
-    if (ready > 0 && m_messageStart < 0) {
+    // Only updates are measured: a fence or another small message would take the open request
+    // and make the update behind it look like an answer without a round trip.
+    if (ready > 0 && m_messageStart < 0 && nextMessageIsUpdate()) {
         // Measured from the arrival of its first byte, not from when the loop came to it.
         const qint64 now = m_clock.nsecsElapsed() / 1000;
         m_messageStart = arrivalOfWaitingData(now);
@@ -338,7 +412,7 @@ void VNCConnector::handleEvent()
         // one update): with updates back to back the count stays, and the server cannot run
         // ahead of the link and queue frames in front of the next input.
         const bool paused = m_messageStart - m_lastUpdateEnd > qint64(m_meter.figures().latencyMs * 1000);
-        if (m_overlapRequests && (paused || !m_overlapStarted) && nextMessageIsUpdate() && SendIncrementalFramebufferUpdateRequest(cl)) {
+        if (m_overlapRequests && !m_continuousOn && (paused || !m_overlapStarted) && SendIncrementalFramebufferUpdateRequest(cl)) {
             m_openRequest = now;
             m_overlapStarted = true;
         }

@@ -73,6 +73,9 @@ private:
     static signed char mallocFrameBuffer(_rfbClient* client);
     static void gotFrameBufferUpdate(_rfbClient* client, int x, int y, int w, int h);
     static void finishedFrameBufferUpdate(_rfbClient* client);
+    // The continuous-updates and fence messages the library does not know (see VncFlow).
+    static signed char handleFlowMessage(_rfbClient* client, uint8_t type);
+    static void registerFlowMessages();
     // Bytes of the server's stream taken in by the library so far.
     qint64 bytesTaken() const;
     // When the first byte waiting in the socket arrived, on m_clock's scale (µs); `now` if unknown.
@@ -82,6 +85,8 @@ private:
     // After each update: the link measured, and the encodings changed when it calls for others.
     void followLink(qint64 now);
     void applyChoice(const VncEncodingChoice& choice);
+    // Continuous updates asked for or stopped as the link class calls for.
+    void followContinuous();
 
     static VNCConnector* m_instance;
     bool m_terminate = false;
@@ -108,5 +113,7 @@ private:
     qint64 m_answeredRequest = -1;  // µs: the request the update being handled answers
     bool m_overlapRequests = false; // one request more than the library's is kept open
     bool m_overlapStarted = false;
+    bool m_continuousOffered = false; // the server can send updates without requests
+    bool m_continuousOn = false;      // and has been asked to
     qint64 m_lastUpdateEnd = 0;     // µs
 };

@@ -161,16 +161,14 @@ class SecondDisplay {
 public:
     bool start(const QString& geometry = QStringLiteral("320x240x24"))
     {
-        m_process.setProgram(QStringLiteral("Xvfb"));
-        m_process.setArguments({QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-                                geometry, QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                                // what the test draws must outlive its own connection
-                                QStringLiteral("-noreset")});
-        m_process.start();
-        if (!m_process.waitForReadyRead(10000))
-            return false;
-        m_name = QStringLiteral(":") + QString::fromLatin1(m_process.readAllStandardOutput()).trimmed();
-        return m_name.size() > 1;
+        return run(QStringLiteral("Xvfb"), {QStringLiteral("-screen"), QStringLiteral("0"), geometry});
+    }
+    // TigerVNC's X server, which serves itself on 127.0.0.1:`port` without a password.
+    bool startVncServer(quint16 port)
+    {
+        return run(QStringLiteral("Xvnc"), {QStringLiteral("-geometry"), QStringLiteral("320x240"), QStringLiteral("-depth"), QStringLiteral("24"),
+                                            QStringLiteral("-rfbport"), QString::number(port), QStringLiteral("-localhost"),
+                                            QStringLiteral("-SecurityTypes"), QStringLiteral("None"), QStringLiteral("-AlwaysShared")});
     }
     ~SecondDisplay()
     {
@@ -180,6 +178,20 @@ public:
     QString name() const { return m_name; }
 
 private:
+    bool run(const QString& program, const QStringList& arguments)
+    {
+        m_process.setProgram(program);
+        m_process.setArguments(arguments
+                               + QStringList{QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"), QStringLiteral("tcp"),
+                                             // what the test draws must outlive its own connection
+                                             QStringLiteral("-noreset")});
+        m_process.start();
+        if (!m_process.waitForReadyRead(10000))
+            return false;
+        m_name = QStringLiteral(":") + QString::fromLatin1(m_process.readAllStandardOutput()).trimmed();
+        return m_name.size() > 1;
+    }
+
     QProcess m_process;
     QString m_name;
 };
@@ -233,6 +245,8 @@ private:
 struct RelayRecord {
     QMutex lock;
     QList<QVector<qint32>> encodings;
+    int continuousUpdatesAsked = 0; // EnableContinuousUpdates with the flag on
+    int fencesAnswered = 0;
     QString error;
 };
 
@@ -331,6 +345,14 @@ private:
                 QMutexLocker locked(&m_record->lock);
                 m_record->encodings << list;
             }
+            if (m_stage == 4 && quint8(m_clientStream.at(0)) == 150 && m_clientStream.at(1) == 1) {
+                QMutexLocker locked(&m_record->lock);
+                ++m_record->continuousUpdatesAsked;
+            }
+            if (m_stage == 4 && quint8(m_clientStream.at(0)) == 248) {
+                QMutexLocker locked(&m_record->lock);
+                ++m_record->fencesAnswered;
+            }
             m_clientStream.remove(0, used);
         }
     }
@@ -351,6 +373,10 @@ private:
             return 6;
         case 6:
             return s.size() >= 8 ? 8 + int(be(s, 4, 4)) : 0;
+        case 150: // EnableContinuousUpdates
+            return 10;
+        case 248: // Fence
+            return s.size() >= 9 ? 9 + quint8(s.at(8)) : 0;
         default:
             QMutexLocker locked(&m_record->lock);
             if (m_record->error.isEmpty())
@@ -398,6 +424,11 @@ public:
     {
         QMutexLocker locked(&m_record.lock);
         return m_record.error;
+    }
+    std::pair<int, int> continuousUpdatesAndFences()
+    {
+        QMutexLocker locked(&m_record.lock);
+        return {m_record.continuousUpdatesAsked, m_record.fencesAnswered};
     }
 
 protected:
@@ -846,6 +877,62 @@ private slots:
             QCOMPARE(received.size(), 1);
             QVERIFY2(matches(received.first()), qPrintable(lists));
         }
+    }
+
+    // TigerVNC's server offers continuous updates: the viewer asks for them once the link is measured,
+    // answers the server's fences, and what changes afterwards reaches it without a request of its
+    // own being answered (the server ignores incremental requests then).
+    void continuousUpdates()
+    {
+        const quint16 port = freeLocalPort();
+        SecondDisplay server;
+        QVERIFY2(server.startVncServer(port), "Xvnc did not start");
+        QVERIFY(drawNoise(server.name(), 1));
+        RelayThread relay(port, 0);
+        const quint16 relayPort = relay.begin();
+        QVERIFY(relayPort);
+
+        quint32 seed = 2;
+        QImage truth;
+        QString mismatch = QStringLiteral("no frame");
+        SessionScript script;
+        script.add("continuous updates asked for", [&] {
+            ViewDialog* viewer = openViewer();
+            if (!viewer || viewer->lastFrame().isNull())
+                return false;
+            drawNoise(server.name(), seed++); // updates for the link to be measured by
+            return relay.continuousUpdatesAndFences().first > 0;
+        });
+        script.add("a new picture arrives", [&] {
+            if (truth.isNull()) {
+                drawNoise(server.name(), 99);
+                Display* x = XOpenDisplay(server.name().toLatin1().constData());
+                if (!x)
+                    return false;
+                XImage* image = XGetImage(x, DefaultRootWindow(x), 0, 0, 320, 240, AllPlanes, ZPixmap);
+                if (image) {
+                    truth = xImage(image);
+                    XDestroyImage(image);
+                }
+                XCloseDisplay(x);
+            }
+            const QImage frame = openViewer()->lastFrame().toImage().convertToFormat(QImage::Format_RGB32);
+            mismatch = frame == truth ? QString() : QStringLiteral("frame differs from the server's screen");
+            return mismatch.isEmpty();
+        });
+        script.start(20000);
+        // Raw pixels over loopback: the comparison is exact, and the server is busy every frame.
+        Connection record = vncRecord(QStringLiteral("127.0.0.1:%1").arg(relayPort), {}, 100);
+        QJsonObject data = record.getData();
+        data.insert(QStringLiteral("encodings"), QStringLiteral("raw"));
+        record.setData(data);
+        const bool opened = VNCConnector::getInstance()->initConnection(record);
+        QVERIFY2(script.failure().isEmpty(), qPrintable(script.failure() + QStringLiteral(": ") + mismatch + QStringLiteral("\n") + relay.error()));
+        QVERIFY(opened);
+        QVERIFY2(relay.error().isEmpty(), qPrintable(relay.error()));
+        const auto [asked, fences] = relay.continuousUpdatesAndFences();
+        QCOMPARE(asked, 1);
+        QVERIFY2(fences > 0, "the server's fences were not answered");
     }
 
     // x11vnc serving another X server: the viewer's frame is that display's content, pixel for pixel.
