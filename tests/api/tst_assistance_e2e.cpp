@@ -1,12 +1,10 @@
 #include "FreePort.h"
 #include "MgmtPeer.h"
-#include "TestSandbox.h"
+#include "SimulatedShell.h"
 #include "TunnelKit.h"
 
-#include <QDir>
 #include <QImage>
 #include <QPainter>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QtTest>
 
@@ -31,14 +29,6 @@ class tst_AssistanceE2e : public QObject {
         return image;
     }
 
-    static QString shellLog(const TestSandbox& sandbox)
-    {
-        QString log;
-        for (const QString& file : QDir(sandbox.home() + "/logs").entryList(QDir::Files))
-            log += QString::fromUtf8(TestSandbox::readFile(sandbox.home() + "/logs/" + file));
-        return log;
-    }
-
 private slots:
     void viewerSeesTheTerminalsScreen()
     {
@@ -49,7 +39,8 @@ private slots:
                 QSKIP(qPrintable(QStringLiteral("%1 is not installed (scripts/test installs it)").arg(tool)));
         QVERIFY2(!qEnvironmentVariableIsEmpty("DISPLAY"), "runs under tests/with-xvfb");
 
-        TestSandbox sandbox;
+        SimulatedShell terminal;
+        const TestSandbox& sandbox = terminal.sandbox;
         TestPki pki;
         QVERIFY(pki.make());
 
@@ -74,34 +65,19 @@ private slots:
                                pki.path("server.key")}));
         const quint16 viewerPort = peer.linesStartingWith("VNC-LISTENING ").value(0).section(' ', 1).toUShort();
         QVERIFY(viewerPort != 0);
-        {
-            QSettings settings(sandbox.dataFile("api.ini"), QSettings::IniFormat);
-            settings.setValue("Enabled", true);
-            settings.setValue("URL", peer.url());
-            settings.setValue("Account", "acme");
-        }
+        terminal.manageBy(peer.url(), "acme");
         // The build of the tunnel where the terminal has it; the simulated terminal runs it for real.
         const QString tunnelPath = sandbox.path("/opt/norbix/tools/tunnel");
         QVERIFY(QDir().mkpath(QFileInfo(tunnelPath).path()));
         QVERIFY(QFile::copy(QStringLiteral(NORBIX_TUNNEL_BINARY), tunnelPath));
         QVERIFY(QFile::setPermissions(tunnelPath, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 
-        const QString commandLog = sandbox.home() + "/commands.jsonl";
-        QProcess shell;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("NORBIX_SIMULATE", "1");
-        environment.insert("NORBIX_ROOT", sandbox.root());
-        environment.insert("HOME", sandbox.home());
-        environment.insert("NORBIX_COMMAND_LOG", commandLog);
+        QProcessEnvironment& environment = terminal.shell.environment;
         environment.insert("NORBIX_ASSIST_VNC", QStringLiteral("127.0.0.1:%1").arg(vncServerPort));
         environment.insert("SSL_CERT_FILE", pki.path("ca.pem")); // the terminal's trust store
         environment.remove("SSL_CERT_DIR");
-        environment.insert("QT_QPA_PLATFORM", "offscreen");
-        environment.remove("QT_QUICK_BACKEND");
-        shell.setProcessEnvironment(environment);
-        shell.setWorkingDirectory(QStringLiteral(NORBIX_BUILD_DIR));
-        shell.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        shell.start(QStringLiteral(NORBIX_SHELL_BINARY), {"--size", "1280x720"});
+        QProcess shell;
+        terminal.launch(shell);
         QVERIFY(shell.waitForStarted());
 
         QVERIFY(!peer.waitFor("CONNECTED", 60000).isEmpty());
@@ -114,9 +90,9 @@ private slots:
         QCOMPARE(token.size(), 32);
         QJsonObject answer;
         QVERIFY2(QTest::qWaitFor([&] { answer = peer.received(1000); return answer.value("action") == "remote"; }, 30000),
-                 qPrintable(shellLog(sandbox).right(3000)));
+                 qPrintable(terminal.log().right(3000)));
         QCOMPARE(answer.value("data").toObject().value("status").toString(), QStringLiteral("ok"));
-        QVERIFY2(peer.waitFor("TUNNEL-ACCEPTED ", 30000) == "TUNNEL-ACCEPTED " + token, qPrintable(shellLog(sandbox).right(3000)));
+        QVERIFY2(peer.waitFor("TUNNEL-ACCEPTED ", 30000) == "TUNNEL-ACCEPTED " + token, qPrintable(terminal.log().right(3000)));
 
         // A VNC client at the peer's local port.
         const QString framePath = sandbox.home() + "/seen.ppm";
@@ -145,7 +121,7 @@ private slots:
         // The viewer left: the session ends on both sides and the tunnel with it, as an ordinary end.
         QVERIFY2(!peer.waitFor("SPLICE-ENDED", 30000).isEmpty(), qPrintable(peer.linesStartingWith("SPLICE").join('\n')));
         QString log;
-        QVERIFY2(QTest::qWaitFor([&] { return (log = shellLog(sandbox)).contains("Remote assistance tunnel ended with exit code"); }, 30000),
+        QVERIFY2(QTest::qWaitFor([&] { return (log = terminal.log()).contains("Remote assistance tunnel ended with exit code"); }, 30000),
                  qPrintable(log.right(3000)));
         QVERIFY2(log.contains("Remote assistance tunnel ended with exit code 0"), qPrintable(log.right(3000)));
         QVERIFY2(log.contains("tunnel: relay ended"), qPrintable(log.right(3000)));
@@ -157,7 +133,7 @@ private slots:
         const QByteArray expectedCall = "{\"args\":[\"--src\",\"127.0.0.1:" + peer.linesStartingWith("ASSIST-LISTENING ").value(0).section(' ', 1).toUtf8()
             + "\",\"--dst\",\"127.0.0.1:" + QByteArray::number(vncServerPort) + "\",\"--token\",\"" + token.toUtf8()
             + "\"],\"detached\":false,\"program\":\"/opt/norbix/tools/tunnel\"}";
-        QVERIFY(TestSandbox::readFile(commandLog).split('\n').contains(expectedCall));
+        QVERIFY(TestSandbox::readFile(terminal.commandLog()).split('\n').contains(expectedCall));
     }
 };
 

@@ -1,9 +1,7 @@
 #include "MgmtPeer.h"
-#include "TestSandbox.h"
+#include "SimulatedShell.h"
 
-#include <QDir>
 #include <QProcess>
-#include <QSettings>
 #include <QtTest>
 
 // The real shell in the simulated terminal, managed by tools/mgmt-peer: start-up hands the
@@ -16,28 +14,12 @@ private slots:
     {
         if (!MgmtPeer::available())
             QSKIP("python3-websockets is not installed (scripts/test installs it)");
-        TestSandbox sandbox;
+        SimulatedShell terminal;
         MgmtPeer peer;
         QVERIFY(peer.start());
-        {
-            QSettings settings(sandbox.dataFile("api.ini"), QSettings::IniFormat);
-            settings.setValue("Enabled", true);
-            settings.setValue("URL", peer.url());
-            settings.setValue("Account", "acme");
-        }
-        const QString commandLog = sandbox.home() + "/commands.jsonl";
+        terminal.manageBy(peer.url(), "acme");
         QProcess shell;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("NORBIX_SIMULATE", "1");
-        environment.insert("NORBIX_ROOT", sandbox.root());
-        environment.insert("HOME", sandbox.home());
-        environment.insert("NORBIX_COMMAND_LOG", commandLog);
-        environment.insert("QT_QPA_PLATFORM", "offscreen");
-        environment.remove("QT_QUICK_BACKEND");
-        shell.setProcessEnvironment(environment);
-        shell.setWorkingDirectory(QStringLiteral(NORBIX_BUILD_DIR));
-        shell.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        shell.start(QStringLiteral(NORBIX_SHELL_BINARY), {"--size", "1280x720"});
+        terminal.launch(shell);
         QVERIFY(shell.waitForStarted());
 
         QVERIFY(!peer.waitFor("CONNECTED", 60000).isEmpty());
@@ -60,13 +42,11 @@ private slots:
 
         shell.kill();
         shell.waitForFinished();
-        const QList<QByteArray> commands = TestSandbox::readFile(commandLog).split('\n');
+        const QList<QByteArray> commands = TestSandbox::readFile(terminal.commandLog()).split('\n');
         QVERIFY(commands.contains(R"({"args":["--src","127.0.0.1:5999","--dst","127.0.0.1:5900","--token","abc"],"detached":false,"program":"/opt/norbix/tools/tunnel"})"));
         QVERIFY(commands.contains(R"({"args":["reboot","-f"],"detached":true,"program":"sudo"})"));
 
-        QString log;
-        for (const QString& file : QDir(sandbox.home() + "/logs").entryList(QDir::Files))
-            log += QString::fromUtf8(TestSandbox::readFile(sandbox.home() + "/logs/" + file));
+        const QString log = terminal.log();
         QVERIFY2(log.contains("Computer name norbix-4A7B12"), qPrintable(log.right(2000)));
         QVERIFY(log.contains("Starting websocket"));
         QVERIFY(log.indexOf("Starting websocket") < log.indexOf("Computer name "));

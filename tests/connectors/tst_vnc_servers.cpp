@@ -119,6 +119,15 @@ ViewDialog* openViewer()
     return nullptr;
 }
 
+// The open viewer's last frame as 32-bit RGB; null while no viewer shows one.
+QImage viewerFrame()
+{
+    const ViewDialog* viewer = openViewer();
+    if (!viewer || viewer->lastFrame().isNull())
+        return QImage();
+    return viewer->lastFrame().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 int viewerCount()
 {
     int count = 0;
@@ -203,6 +212,21 @@ QImage xImage(XImage* image)
         for (int x = 0; x < image->width; ++x)
             frame.setPixel(x, y, 0xFF000000 | XGetPixel(image, x, y));
     return frame;
+}
+
+// The root window of `display` as its X server holds it, from the top left corner.
+QImage screenOf(const QString& display, QSize size)
+{
+    Display* x = XOpenDisplay(display.toLatin1().constData());
+    if (!x)
+        return QImage();
+    QImage pixels;
+    if (XImage* image = XGetImage(x, DefaultRootWindow(x), 0, 0, size.width(), size.height(), AllPlanes, ZPixmap)) {
+        pixels = xImage(image);
+        XDestroyImage(image);
+    }
+    XCloseDisplay(x);
+    return pixels;
 }
 
 // What the X server shows in the viewer's window where the frame is (not what the toolkit would
@@ -897,8 +921,7 @@ private slots:
         QString mismatch = QStringLiteral("no frame");
         SessionScript script;
         script.add("continuous updates asked for", [&] {
-            ViewDialog* viewer = openViewer();
-            if (!viewer || viewer->lastFrame().isNull())
+            if (viewerFrame().isNull())
                 return false;
             drawNoise(server.name(), seed++); // updates for the link to be measured by
             return relay.continuousUpdatesAndFences().first > 0;
@@ -906,18 +929,9 @@ private slots:
         script.add("a new picture arrives", [&] {
             if (truth.isNull()) {
                 drawNoise(server.name(), 99);
-                Display* x = XOpenDisplay(server.name().toLatin1().constData());
-                if (!x)
-                    return false;
-                XImage* image = XGetImage(x, DefaultRootWindow(x), 0, 0, 320, 240, AllPlanes, ZPixmap);
-                if (image) {
-                    truth = xImage(image);
-                    XDestroyImage(image);
-                }
-                XCloseDisplay(x);
+                truth = screenOf(server.name(), QSize(320, 240));
             }
-            const QImage frame = openViewer()->lastFrame().toImage().convertToFormat(QImage::Format_RGB32);
-            mismatch = frame == truth ? QString() : QStringLiteral("frame differs from the server's screen");
+            mismatch = viewerFrame() == truth ? QString() : QStringLiteral("frame differs from the server's screen");
             return mismatch.isEmpty();
         });
         script.start(20000);
@@ -951,13 +965,10 @@ private slots:
         }
         XSetForeground(x, gc, 0xFFFFFF);
         XFillRectangle(x, root, gc, 10, 100, 300, 20);
-        XSync(x, False);
-        XImage* image = XGetImage(x, root, 0, 0, 320, 240, AllPlanes, ZPixmap);
-        QVERIFY(image);
-        const QImage truth = xImage(image);
-        XDestroyImage(image);
         XFreeGC(x, gc);
-        XCloseDisplay(x);
+        XCloseDisplay(x); // the server keeps what was drawn (-noreset)
+        const QImage truth = screenOf(display.name(), QSize(320, 240));
+        QVERIFY(!truth.isNull());
 
         const quint16 port = freeLocalPort();
         QProcess vnc;
@@ -967,10 +978,9 @@ private slots:
         QString mismatch = QStringLiteral("no frame");
         SessionScript script;
         script.add("the display's content", [&] {
-            ViewDialog* viewer = openViewer();
-            if (!viewer || viewer->lastFrame().isNull())
+            const QImage frame = viewerFrame();
+            if (frame.isNull())
                 return false;
-            const QImage frame = viewer->lastFrame().toImage().convertToFormat(QImage::Format_RGB32);
             mismatch = frame == truth ? QString() : QStringLiteral("frame %1x%2 differs").arg(frame.width()).arg(frame.height());
             return mismatch.isEmpty();
         });

@@ -1,19 +1,19 @@
 #pragma once
 
-#include "Logging.h"
 #include "ShellProcess.h"
 #include "TestSandbox.h"
 
-#include <QDate>
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 
 // The real norbix-shell in the simulated terminal, with a sandbox and a working directory of its
 // own: start it, then read its log and the commands it ran (as "program arg arg ..." lines).
-// Header-only: it needs the log file's name from the app library, which the fakes do not link.
 struct SimulatedShell {
     TestSandbox sandbox;
     QTemporaryDir workingDir;
@@ -54,7 +54,33 @@ struct SimulatedShell {
                          QStringList{"--screenshot", screenshot(), "--size", "1280x720"} + extraArguments);
     }
 
-    QString log() const { return QString::fromUtf8(TestSandbox::readFile(Logging::logFilePath(QDate::currentDate()))); }
+    // Starts the shell for a session the test drives itself; it runs until the test ends it.
+    void launch(QProcess& process) const
+    {
+        process.setProcessEnvironment(shell.environment);
+        process.setWorkingDirectory(shell.workingDirectory);
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process.start(QStringLiteral(NORBIX_SHELL_BINARY), {QStringLiteral("--size"), QStringLiteral("1280x720")});
+    }
+
+    // A terminal managed by the server at `url`.
+    void manageBy(const QString& url, const QString& account) const
+    {
+        QSettings settings(sandbox.dataFile(QStringLiteral("api.ini")), QSettings::IniFormat);
+        settings.setValue(QStringLiteral("Enabled"), true);
+        settings.setValue(QStringLiteral("URL"), url);
+        settings.setValue(QStringLiteral("Account"), account);
+    }
+
+    // Every day's log, oldest first.
+    QString log() const
+    {
+        const QDir logs(sandbox.home() + QStringLiteral("/logs"));
+        QString text;
+        for (const QFileInfo& file : logs.entryInfoList(QDir::Files, QDir::Time | QDir::Reversed))
+            text += QString::fromUtf8(TestSandbox::readFile(file.filePath()));
+        return text;
+    }
 
     QStringList commands() const
     {
