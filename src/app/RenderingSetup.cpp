@@ -30,11 +30,9 @@ SceneGraphBackendProbe::~SceneGraphBackendProbe()
 
 void SceneGraphBackendProbe::start()
 {
-    m_started = true;
-    if (!qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") || !qEnvironmentVariableIsEmpty("QMLSCENE_DEVICE")) {
-        m_decided = true;
+    m_named = !qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") || !qEnvironmentVariableIsEmpty("QMLSCENE_DEVICE");
+    if (m_named)
         return;
-    }
     const QString platform = QGuiApplication::platformName();
     if (platform == QLatin1String("offscreen") || platform == QLatin1String("minimal"))
         return;
@@ -48,13 +46,11 @@ void SceneGraphBackendProbe::start()
 
 bool SceneGraphBackendProbe::finish()
 {
-    if (!m_started)
-        start();
     if (m_thread.joinable())
         m_thread.join();
-    if (m_decided || m_openGlWorks)
+    if (m_named || m_openGlWorks || m_software)
         return m_software;
-    m_decided = m_software = true;
+    m_software = true;
     qInfo() << "No usable OpenGL on" << QGuiApplication::platformName() << "- using the software renderer";
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     return true;

@@ -22,8 +22,7 @@ public:
 
 private:
     std::thread m_thread;
-    bool m_started = false;
-    bool m_decided = false; // an environment variable already names the backend
+    bool m_named = false; // an environment variable already names the backend
     bool m_openGlWorks = false;
     bool m_software = false;
 };

@@ -190,8 +190,6 @@ int runShell(int argc, char* argv[])
     // asks the desktop over D-Bus), and handing back to the system what start-up freed.
     std::unique_ptr<TrayIcon> trayIcon;
     const auto afterFirstFrame = [&trayIcon] {
-        if (trayIcon)
-            return;
         trayIcon = std::make_unique<TrayIcon>();
         malloc_trim(0);
     };
