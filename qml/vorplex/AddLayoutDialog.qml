@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 
@@ -66,7 +66,7 @@ ModalDialog {
         clip: true
         model: dialog.layoutModel
         boundsBehavior: Flickable.StopAtBounds
-        ScrollBar.vertical: NxScrollBar {}
+        T.ScrollBar.vertical: NxScrollBar {}
 
         delegate: NxCheckBox {
             readonly property bool matches: dialog.filter === "" || model.name.toLowerCase().indexOf(dialog.filter) >= 0

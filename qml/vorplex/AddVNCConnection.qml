@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 import com.vnc.ConnectDialogBackend 1.0
@@ -211,7 +211,7 @@ FormPage {
                 from: 10
                 to: 100
                 stepSize: 5
-                snapMode: Slider.SnapAlways
+                snapMode: T.Slider.SnapAlways
                 value: 100
                 Accessible.name: qsTr("Window size")
             }

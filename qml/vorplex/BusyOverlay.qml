@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import NorbixUi 1.0
 
 // Covers a page while a blocking system change runs. run() shows the message first and starts the

@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 import com.CertificatesStorage 1.0

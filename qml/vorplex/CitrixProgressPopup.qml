@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 import com.CitrixConnector 1.0
@@ -201,9 +201,9 @@ ModalDialog {
             clip: true
             model: popup.resources
             boundsBehavior: Flickable.StopAtBounds
-            ScrollBar.vertical: NxScrollBar {}
+            T.ScrollBar.vertical: NxScrollBar {}
 
-            delegate: ItemDelegate {
+            delegate: T.ItemDelegate {
                 id: option
 
                 readonly property bool selected: popup.selectedResource === index

@@ -1,9 +1,9 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import NorbixUi 1.0
 
 // Large dialog that shows a connection's add/edit form over the current screen.
-Popup {
+T.Popup {
     id: dialog
 
     property int connectionIndex: -1
@@ -17,14 +17,14 @@ Popup {
         open();
     }
 
-    parent: Overlay.overlay
+    parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: parent ? Math.round((parent.height - height) / 2) : 0
     width: parent ? Math.min(880, parent.width - 2 * Theme.spacingXxl) : 880
     height: parent ? Math.min(parent.height - 2 * Theme.spacingXl, 960) : 640
     modal: true
     focus: true
-    closePolicy: Popup.NoAutoClose
+    closePolicy: T.Popup.NoAutoClose
     padding: 0
     // The form's white title bar and footer continue into the rounded corners.
     topPadding: Theme.radiusL
@@ -36,7 +36,7 @@ Popup {
             loader.source = "";
     })
 
-    Overlay.modal: Rectangle {
+    T.Overlay.modal: Rectangle {
         color: Theme.scrim
     }
 

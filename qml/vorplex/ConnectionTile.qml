@@ -1,10 +1,10 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 
 // One connection on the home screen. Clicking it starts the session.
-AbstractButton {
+T.AbstractButton {
     id: tile
 
     property string name
@@ -25,9 +25,11 @@ AbstractButton {
     Accessible.name: name
     Accessible.description: kinds.label(kind)
 
-    ToolTip.visible: hovered && nameText.truncated
-    ToolTip.delay: 700
-    ToolTip.text: name
+    NxToolTip {
+        shown: tile.hovered && nameText.truncated
+        delay: 700
+        text: tile.name
+    }
 
     ConnectionKinds {
         id: kinds

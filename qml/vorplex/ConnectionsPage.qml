@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 import com.ConnectionManager 1.0
@@ -60,7 +60,7 @@ Item {
         if (source === "")
             return false;
         var form = stack.push(Qt.resolvedUrl(source), { connectionIndex: index, dismissStyle: "back" },
-                              immediate ? StackView.Immediate : StackView.PushTransition);
+                              immediate ? T.StackView.Immediate : T.StackView.PushTransition);
         if (!form)
             return false;
         form.dismissed.connect(page.closeForm);
@@ -120,7 +120,7 @@ Item {
         }
     }
 
-    StackView {
+    T.StackView {
         id: stack
         anchors.fill: parent
         initialItem: overview
@@ -204,7 +204,11 @@ Item {
                         text: qsTr("VNC")
                         onTriggered: page.openForm(kinds.vnc, -1)
                     }
-                    MenuSeparator {
+                    T.MenuSeparator {
+                        implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
+                                                implicitContentWidth + leftPadding + rightPadding)
+                        implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
+                                                 implicitContentHeight + topPadding + bottomPadding)
                         visible: page.applicationEnabled[5]
                         height: visible ? implicitHeight : 0
                         topPadding: Theme.spacingXs
@@ -350,9 +354,10 @@ Item {
                                 id: nameHover
                             }
 
-                            ToolTip.visible: nameHover.hovered && truncated
-                            ToolTip.delay: 600
-                            ToolTip.text: text
+                            NxToolTip {
+                                shown: nameHover.hovered && parent.truncated
+                                text: parent.text
+                            }
                         }
                     }
 
@@ -404,9 +409,10 @@ Item {
                                 id: addressHover
                             }
 
-                            ToolTip.visible: addressHover.hovered && truncated
-                            ToolTip.delay: 600
-                            ToolTip.text: text
+                            NxToolTip {
+                                shown: addressHover.hovered && parent.truncated
+                                text: parent.text
+                            }
                         }
                     }
 

@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 import com.PingManager 1.0
@@ -122,18 +122,25 @@ PageScaffold {
         Layout.fillWidth: true
         title: qsTr("Output")
 
-        ScrollView {
+        T.ScrollView {
+            id: outputView
             Layout.fillWidth: true
             Layout.preferredHeight: 260
             clip: true
 
-            TextArea {
+            T.ScrollBar.vertical: NxScrollBar {
+                parent: outputView
+                x: outputView.width - width
+                y: outputView.topPadding
+                height: outputView.availableHeight
+            }
+
+            NxTextArea {
                 id: output
                 readOnly: true
                 wrapMode: TextEdit.WrapAnywhere
                 font.family: "monospace"
                 font.pixelSize: Theme.fontSmall
-                color: Theme.text
                 placeholderText: qsTr("The answers appear here.")
                 background: Rectangle {
                     color: Theme.surfaceAlt

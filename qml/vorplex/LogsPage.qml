@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 import com.LogManager 1.0
@@ -114,17 +114,14 @@ PageScaffold {
                 anchors.margins: 1
                 clip: true
                 boundsBehavior: Flickable.StopAtBounds
-                ScrollBar.vertical: NxScrollBar {}
+                T.ScrollBar.vertical: NxScrollBar {}
 
-                TextArea.flickable: TextArea {
+                T.TextArea.flickable: NxTextArea {
                     id: logText
                     readOnly: true
                     selectByMouse: true
                     wrapMode: TextEdit.Wrap
                     textFormat: TextEdit.PlainText
-                    color: Theme.text
-                    selectionColor: Theme.accent
-                    selectedTextColor: Theme.textOnAccent
                     font.family: Theme.monoFamily
                     font.pixelSize: Theme.fontMono
                     padding: Theme.spacingM

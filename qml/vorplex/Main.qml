@@ -26,7 +26,7 @@
  * Unknown names log a warning and show the home screen.
  */
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import NorbixUi 1.0
 import com.APIManager 1.0
 import com.AccessibilityBackend 1.0
@@ -34,7 +34,7 @@ import com.ConnectionManager 1.0
 import com.RDPConnector 1.0
 import com.WizardBackend 1.0
 
-ApplicationWindow {
+T.ApplicationWindow {
     id: window
 
     property string currentView: "main"
@@ -226,7 +226,7 @@ ApplicationWindow {
     Loader {
         id: keyboardLoader
         // Above dialogs too: their fields need the keyboard as much as the pages' do.
-        parent: Overlay.overlay
+        parent: T.Overlay.overlay
         z: 10000
         anchors.fill: parent
         active: AccessibilityBackend.onScreenKeyboard && AccessibilityBackend.inputMethodReady

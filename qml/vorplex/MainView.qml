@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 
@@ -201,7 +201,7 @@ Rectangle {
             model: root.connectionsModel
             delegate: root.connectionTile
             boundsBehavior: Flickable.StopAtBounds
-            ScrollBar.vertical: NxScrollBar {}
+            T.ScrollBar.vertical: NxScrollBar {}
         }
 
         EmptyState {

@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 import com.MouseSettingsBackend 1.0
@@ -49,7 +49,7 @@ PageScaffold {
                 from: -1
                 to: 1
                 stepSize: 0.2
-                snapMode: Slider.SnapAlways
+                snapMode: T.Slider.SnapAlways
                 onMoved: mouse.setMouseSensetivity(Math.round(value * 10) / 10)
             }
             Text {
@@ -90,7 +90,7 @@ PageScaffold {
                 from: 1
                 to: 10
                 stepSize: 1
-                snapMode: Slider.SnapAlways
+                snapMode: T.Slider.SnapAlways
                 onMoved: mouse.setDoubleClickSpeed(Math.round(value) * 100)
             }
             Text {

@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 
@@ -149,7 +149,7 @@ Item {
             contentWidth: width
             contentHeight: navColumn.height + 2 * Theme.spacingS
             boundsBehavior: Flickable.StopAtBounds
-            ScrollBar.vertical: NxScrollBar {
+            T.ScrollBar.vertical: NxScrollBar {
                 onDark: true
             }
 

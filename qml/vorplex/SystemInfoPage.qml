@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 import com.InfoBackend 1.0
@@ -66,18 +65,22 @@ PageScaffold {
                     visible: model.section === sectionCard.section
                     spacing: Theme.spacingL
 
-                    Label {
+                    Text {
                         Layout.preferredWidth: Math.round(sectionCard.width * 0.3)
                         Layout.alignment: Qt.AlignTop
                         text: model.label
                         color: Theme.textSecondary
                         elide: Text.ElideRight
+                        font.family: Theme.fontFamily
+                        font.pixelSize: Theme.fontBody
                     }
-                    Label {
+                    Text {
                         Layout.fillWidth: true
                         text: model.value
                         color: Theme.text
                         wrapMode: Text.Wrap
+                        font.family: Theme.fontFamily
+                        font.pixelSize: Theme.fontBody
                     }
                 }
             }

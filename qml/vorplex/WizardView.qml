@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import NorbixUi 1.0
 
@@ -97,13 +96,14 @@ FocusScope {
             anchors.rightMargin: Theme.spacingXxl
             spacing: Theme.spacingL
 
-            Label {
+            Text {
                 Layout.fillWidth: true
                 text: qsTr("Welcome to your terminal")
                 color: Theme.navyTextStrong
                 font.pixelSize: Theme.fontTitle
                 font.weight: Font.DemiBold
                 elide: Text.ElideRight
+                font.family: Theme.fontFamily
             }
 
             Repeater {
@@ -119,10 +119,11 @@ FocusScope {
                 }
             }
 
-            Label {
+            Text {
                 text: root.wizard ? qsTr("Step %1 of %2").arg(root.wizard.stepIndex + 1).arg(root.wizard.stepCount) : ""
                 color: Theme.navyText
                 font.pixelSize: Theme.fontSmall
+                font.family: Theme.fontFamily
             }
         }
     }

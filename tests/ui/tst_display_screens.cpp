@@ -16,8 +16,8 @@ namespace {
 QQuickWindow* host(QQmlEngine& engine, const QString& page)
 {
     QQmlComponent component(&engine);
-    component.setData(QStringLiteral("import QtQuick 2.15\nimport QtQuick.Controls 2.15\n"
-                                     "ApplicationWindow { width: 1280; height: 720; visible: true\n"
+    component.setData(QStringLiteral("import QtQuick 2.15\nimport QtQuick.Templates 2.15 as T\n"
+                                     "T.ApplicationWindow { width: 1280; height: 720; visible: true\n"
                                      "  Loader { objectName: \"loader\"; anchors.fill: parent; source: \"qrc:/vorplex/%1\" } }")
                           .arg(page)
                           .toUtf8(),

@@ -36,8 +36,8 @@ class tst_InputScreens : public QObject {
             engine.addImportPath(QStringLiteral("qrc:/custom"));
             objects.publish(engine.rootContext());
             QQmlComponent component(&engine);
-            component.setData("import QtQuick 2.15\nimport QtQuick.Controls 2.15\n"
-                              "ApplicationWindow { width: 1280; height: 720; visible: true\n"
+            component.setData("import QtQuick 2.15\nimport QtQuick.Templates 2.15 as T\n"
+                              "T.ApplicationWindow { width: 1280; height: 720; visible: true\n"
                               "  Loader { objectName: \"loader\"; anchors.fill: parent; source: \"qrc:/vorplex/"
                                   + page.toUtf8() + "\" } }",
                               QUrl(QStringLiteral("qrc:/vorplex/TestWindow.qml")));

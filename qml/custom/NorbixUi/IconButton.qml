@@ -1,8 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 
 // Square icon-only button. `text` is used for the tooltip and accessibility.
-AbstractButton {
+T.AbstractButton {
     id: control
 
     property string iconName
@@ -17,9 +17,10 @@ AbstractButton {
 
     Accessible.name: text
 
-    ToolTip.visible: hovered && text !== ""
-    ToolTip.delay: 600
-    ToolTip.text: text
+    NxToolTip {
+        shown: control.hovered
+        text: control.text
+    }
 
     contentItem: Item {
         NxIcon {

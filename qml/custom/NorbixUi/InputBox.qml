@@ -1,8 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 
 // Styled single-line text input used by FormField and PasswordField.
-TextField {
+T.TextField {
     id: control
 
     property bool hasError: false
@@ -16,11 +16,30 @@ TextField {
     selectByMouse: true
     verticalAlignment: TextInput.AlignVCenter
 
+    implicitWidth: implicitBackgroundWidth + leftInset + rightInset
+                   || Math.max(contentWidth, hint.implicitWidth) + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight
     leftPadding: Theme.spacingM
     rightPadding: Theme.spacingM
     topPadding: 0
     bottomPadding: 0
+
+    // The hint while the field is empty (the templates draw none).
+    Text {
+        id: hint
+        x: control.leftPadding
+        y: control.topPadding
+        width: control.width - control.leftPadding - control.rightPadding
+        height: control.height - control.topPadding - control.bottomPadding
+        text: control.placeholderText
+        font: control.font
+        color: control.placeholderTextColor
+        verticalAlignment: control.verticalAlignment
+        visible: !control.length && !control.preeditText
+                 && (!control.activeFocus || control.horizontalAlignment !== Qt.AlignHCenter)
+        elide: Text.ElideRight
+        renderType: control.renderType
+    }
 
     background: Rectangle {
         implicitWidth: 240

@@ -1,9 +1,9 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 
 // Centred modal dialog with title, message, custom content and OK/Cancel.
-Popup {
+T.Popup {
     id: dialog
 
     property string title
@@ -43,7 +43,7 @@ Popup {
         close();
     }
 
-    parent: Overlay.overlay
+    parent: T.Overlay.overlay
     // Rounded so text stays on whole pixels.
     x: parent ? Math.round((parent.width - width) / 2) : 0
     // Centred in what the on-screen keyboard leaves free, so the field in use stays visible.
@@ -51,7 +51,7 @@ Popup {
     width: parent ? Math.min(Theme.dialogWidth, Math.max(320, parent.width - 2 * Theme.spacingXxl)) : Theme.dialogWidth
     modal: true
     focus: true
-    closePolicy: Popup.CloseOnEscape
+    closePolicy: T.Popup.CloseOnEscape
     padding: 0
     implicitHeight: layout.implicitHeight + topPadding + bottomPadding
     height: implicitHeight
@@ -62,7 +62,7 @@ Popup {
             cancelled();
     }
 
-    Overlay.modal: Rectangle {
+    T.Overlay.modal: Rectangle {
         color: Theme.scrim
     }
 

@@ -1,9 +1,9 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 
 // Entry of the navy side bar.
-AbstractButton {
+T.AbstractButton {
     id: item
 
     property string iconName

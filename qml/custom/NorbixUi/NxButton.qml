@@ -1,8 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 
 // Shared look of all text buttons; PrimaryButton and friends only pick a kind.
-Button {
+T.Button {
     id: control
 
     // "primary", "secondary", "flat", "danger" or "onDark" (for the navy areas).
@@ -58,6 +58,8 @@ Button {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
 
+    implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
+                            implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Theme.controlHeight
     leftPadding: iconName !== "" ? 14 : 18
     rightPadding: 18

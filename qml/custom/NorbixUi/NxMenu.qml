@@ -1,8 +1,9 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
+import QtQuick.Window 2.15
 
 // Drop-down menu in the shell's look; fill it with NxMenuItem and MenuSeparator.
-Menu {
+T.Menu {
     id: menu
 
     topPadding: 6
@@ -12,7 +13,20 @@ Menu {
     modal: false
     implicitWidth: Math.max(240, contentItem ? contentItem.implicitWidth + leftPadding + rightPadding : 0)
 
+    implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
+                             contentHeight + topPadding + bottomPadding)
+    margins: 0
+    overlap: 1
+
     delegate: NxMenuItem {}
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        model: menu.contentModel
+        interactive: Window.window ? contentHeight + menu.topPadding + menu.bottomPadding > Window.window.height : false
+        clip: true
+        currentIndex: menu.currentIndex
+    }
 
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.durationFast }

@@ -1,16 +1,19 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 
 // Entry of an NxMenu: icon, label and an optional muted detail on the right.
-MenuItem {
+T.MenuItem {
     id: item
 
     property string iconName
     property string detail
 
     hoverEnabled: true
+    implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
+                            implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: 40
+    padding: 6
     leftPadding: Theme.spacingM
     rightPadding: Theme.spacingM
     font.family: Theme.fontFamily

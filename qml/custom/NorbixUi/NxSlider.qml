@@ -1,11 +1,13 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 
 // Horizontal slider in the house colours; the caller shows the value.
-Slider {
+T.Slider {
     id: control
 
     hoverEnabled: true
+    implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
+                            implicitHandleWidth + leftPadding + rightPadding)
     implicitHeight: 32
     padding: 0
     leftPadding: 10

@@ -1,8 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 
 // Track-and-knob switch without its own label; SwitchRow supplies the text.
-Switch {
+T.Switch {
     id: control
 
     padding: 2

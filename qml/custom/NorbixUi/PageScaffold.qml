@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 import QtQuick.Window 2.15
 
@@ -142,7 +142,7 @@ Item {
         contentWidth: width
         contentHeight: contentColumn.height + 2 * Theme.spacingXl
         boundsBehavior: Flickable.StopAtBounds
-        ScrollBar.vertical: NxScrollBar {}
+        T.ScrollBar.vertical: NxScrollBar {}
 
         ColumnLayout {
             id: contentColumn

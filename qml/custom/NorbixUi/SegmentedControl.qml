@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 
 // A row of mutually exclusive choices shown side by side; `model` is a list of labels.
@@ -29,7 +29,7 @@ Rectangle {
         Repeater {
             model: control.model
 
-            delegate: AbstractButton {
+            delegate: T.AbstractButton {
                 id: segment
 
                 readonly property bool selected: control.currentIndex === index
@@ -37,6 +37,10 @@ Rectangle {
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 Layout.preferredWidth: label.implicitWidth + 2 * Theme.spacingL
+                implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
+                                        implicitContentWidth + leftPadding + rightPadding)
+                implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
+                                         implicitContentHeight + topPadding + bottomPadding)
                 hoverEnabled: true
                 focusPolicy: Qt.StrongFocus
                 checkable: true

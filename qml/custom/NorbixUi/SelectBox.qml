@@ -1,8 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 
 // Styled drop-down list; long entries such as paths are elided in the middle.
-ComboBox {
+T.ComboBox {
     id: control
 
     property bool hasError: false
@@ -16,7 +16,7 @@ ComboBox {
     leftPadding: Theme.spacingM
     rightPadding: Theme.spacingM + 18 + Theme.spacingS
 
-    delegate: ItemDelegate {
+    delegate: T.ItemDelegate {
         id: option
         width: ListView.view ? ListView.view.width : implicitWidth
         implicitHeight: 38
@@ -72,7 +72,7 @@ ComboBox {
                                                                                       : control.hovered ? Theme.borderStrong : Theme.border
     }
 
-    popup: Popup {
+    popup: T.Popup {
         y: control.height + 4
         width: control.width
         implicitHeight: Math.min(contentItem.implicitHeight + topPadding + bottomPadding, 320)
@@ -84,7 +84,7 @@ ComboBox {
             model: control.popup.visible ? control.delegateModel : null
             currentIndex: control.highlightedIndex
             boundsBehavior: Flickable.StopAtBounds
-            ScrollIndicator.vertical: ScrollIndicator {}
+            T.ScrollIndicator.vertical: T.ScrollIndicator {}
         }
 
         background: Rectangle {

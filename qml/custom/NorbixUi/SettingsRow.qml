@@ -1,9 +1,9 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 
 // One line of a settings list: icon, title, description and trailing controls.
-AbstractButton {
+T.AbstractButton {
     id: row
 
     property string title

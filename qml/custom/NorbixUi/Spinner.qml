@@ -1,8 +1,8 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 
 // Busy indicator: a rotating arc in the accent colour.
-BusyIndicator {
+T.BusyIndicator {
     id: control
 
     property color color: Theme.accent

@@ -1,9 +1,9 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Layouts 1.15
 
 // Short, self-dismissing message at the bottom of the window.
-Popup {
+T.Popup {
     id: toast
 
     // "info", "success" or "error"
@@ -19,13 +19,13 @@ Popup {
         open();
     }
 
-    parent: Overlay.overlay
+    parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: parent ? parent.height - height - Theme.spacingXxl - bottomOffset : 0
     width: parent ? Math.min(implicitWidth, Math.max(240, parent.width - 2 * Theme.spacingXxl)) : implicitWidth
     modal: false
     focus: false
-    closePolicy: Popup.NoAutoClose
+    closePolicy: T.Popup.NoAutoClose
     topPadding: Theme.spacingM
     bottomPadding: Theme.spacingM
     leftPadding: Theme.spacingL
