@@ -145,6 +145,10 @@ T.ApplicationWindow {
                 connectionCheck().checkIndex(0, ConnectionManager.listConnectionNames()[0]);
             return;
         }
+        if (page === "connection-error") {
+            showError(RDPConnector.messageForExitCode(147));
+            return;
+        }
         if (page === "vnc-password") {
             vncPassword().openFor(0);
             return;
@@ -194,19 +198,46 @@ T.ApplicationWindow {
     font.family: Theme.fontFamily
     font.pixelSize: Theme.fontBody
 
-    // Dialogs are made the first time they are needed: the first frame does not wait for them.
+    // Dialogs are loaded and made the first time they are needed: neither their types nor their
+    // objects hold up the first frame. `init` wires the new dialog's signals.
     property var madeDialogs: ({})
-    function made(name, component) {
-        if (!madeDialogs[name])
-            madeDialogs[name] = component.createObject(window);
-        return madeDialogs[name];
+    function made(file, init, properties) {
+        if (!madeDialogs[file]) {
+            var component = Qt.createComponent(file);
+            var dialog = component.createObject(window, properties || {});
+            if (!dialog) {
+                console.warn("Cannot make", file, component.errorString());
+                return null;
+            }
+            if (init)
+                init(dialog);
+            madeDialogs[file] = dialog;
+        }
+        return madeDialogs[file];
     }
-    function rdpLogin() { return made("rdpLogin", rdpLoginComponent); }
-    function formDialog() { return made("formDialog", formDialogComponent); }
-    function errorDialog() { return made("errorDialog", errorDialogComponent); }
-    function remotePopup() { return made("remotePopup", remotePopupComponent); }
-    function vncPassword() { return made("vncPassword", vncPasswordComponent); }
-    function connectionCheck() { return made("connectionCheck", connectionCheckComponent); }
+    function rdpLogin() {
+        return made("RDPLoginDialog.qml", function (dialog) {
+            dialog.failed.connect(function () { window.showError(qsTr("Failed to connect")); });
+        });
+    }
+    function formDialog() {
+        return made("ConnectionFormDialog.qml", function (dialog) {
+            dialog.saved.connect(function (name, added) {
+                toast.show(added ? qsTr("\u201c%1\u201d added.").arg(name) : qsTr("Changes to \u201c%1\u201d saved.").arg(name), "success");
+            });
+        });
+    }
+    function errorDialog() {
+        return made("../custom/NorbixUi/ModalDialog.qml", null,
+                    { title: qsTr("Connection error"), showCancel: false, okText: qsTr("Close") });
+    }
+    function remotePopup() { return made("AdminConnectionPopup.qml"); }
+    function vncPassword() {
+        return made("VNCPasswordDialog.qml", function (dialog) {
+            dialog.failed.connect(function () { window.showError(qsTr("Failed to connect")); });
+        });
+    }
+    function connectionCheck() { return made("ConnectionCheckDialog.qml"); }
 
     ConnectionKinds {
         id: kinds
@@ -249,10 +280,11 @@ T.ApplicationWindow {
         z: 1
         active: window.currentView === "wizard"
         focus: active
-        sourceComponent: WizardView {
-            wizard: wizardBackend
-            focus: true
-            onFinished: window.showHome()
+        source: "WizardView.qml"
+        onLoaded: {
+            item.wizard = wizardBackend;
+            item.focus = true;
+            item.finished.connect(window.showHome);
         }
     }
 
@@ -290,11 +322,8 @@ T.ApplicationWindow {
         anchors.fill: parent
         active: window.settingsLoaded
         visible: window.currentView === "settings"
-        sourceComponent: Component {
-            SettingsView {
-                onHomeRequested: window.showHome()
-            }
-        }
+        source: "SettingsView.qml"
+        onLoaded: item.homeRequested.connect(window.showHome)
     }
 
     Connections {
@@ -329,32 +358,9 @@ T.ApplicationWindow {
         }
     }
 
-    Component {
-        id: rdpLoginComponent
-        RDPLoginDialog {
-            onFailed: window.showError(qsTr("Failed to connect"))
-        }
-    }
-
-    Component {
-        id: formDialogComponent
-        ConnectionFormDialog {
-            onSaved: toast.show(added ? qsTr("\u201c%1\u201d added.").arg(name) : qsTr("Changes to \u201c%1\u201d saved.").arg(name), "success")
-        }
-    }
-
     CitrixProgressPopup {
         id: citrixProgress
         mode: "launch"
-    }
-
-    Component {
-        id: errorDialogComponent
-        ModalDialog {
-            title: qsTr("Connection error")
-            showCancel: false
-            okText: qsTr("Close")
-        }
     }
 
     Toast {
@@ -365,23 +371,6 @@ T.ApplicationWindow {
 
     TeamsPopup {
         id: teamsPopup
-    }
-
-    Component {
-        id: remotePopupComponent
-        AdminConnectionPopup {}
-    }
-
-    Component {
-        id: vncPasswordComponent
-        VNCPasswordDialog {
-            onFailed: window.showError(qsTr("Failed to connect"))
-        }
-    }
-
-    Component {
-        id: connectionCheckComponent
-        ConnectionCheckDialog {}
     }
 
     AssistanceBanner {

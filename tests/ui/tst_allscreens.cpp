@@ -38,7 +38,8 @@ void collect(QtMsgType type, const QMessageLogContext& context, const QString& m
 QStringList pages()
 {
     QStringList list{"main", "settings", "lock", "add/rdp", "add/citrix", "add/vmware", "add/browser", "add/putty", "add/vnc",
-                     "rdp-login", "citrix-progress", "remote-request", "connection-check", "vnc-password", "help-answered"};
+                     "rdp-login", "citrix-progress", "remote-request", "connection-check", "connection-error", "vnc-password",
+                     "help-answered"};
     // Every settings section the catalogue names.
     QFile catalog(QStringLiteral(":/vorplex/SectionCatalog.qml"));
     if (catalog.open(QIODevice::ReadOnly)) {
