@@ -69,15 +69,23 @@ T.AbstractButton {
                          || tile.kind === kinds.citrix || tile.kind === kinds.putty
                 iconName: "chevron-down"
                 Accessible.name: qsTr("More actions for %1").arg(tile.name)
-                onClicked: tileMenu.popup(menuButton, 0, menuButton.height)
+                // The menu is made on its first opening: a catalogue of tiles makes none at start.
+                property NxMenu menu: null
+                onClicked: {
+                    if (!menu)
+                        menu = tileMenu.createObject(menuButton);
+                    menu.popup(menuButton, 0, menuButton.height);
+                }
 
-                NxMenu {
+                Component {
                     id: tileMenu
 
-                    NxMenuItem {
-                        iconName: "network"
-                        text: qsTr("Test connection")
-                        onTriggered: tile.checkRequested()
+                    NxMenu {
+                        NxMenuItem {
+                            iconName: "network"
+                            text: qsTr("Test connection")
+                            onTriggered: tile.checkRequested()
+                        }
                     }
                 }
             }

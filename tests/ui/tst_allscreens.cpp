@@ -198,6 +198,31 @@ QStringList escapeProblems(QQuickWindow* window)
     return {QStringLiteral("Escape does not leave the dialog: %1").arg(name)};
 }
 
+// The menu button of the first connection tile that has one.
+QQuickItem* tileMenuButton(QQuickItem* item)
+{
+    if (item->isVisible() && inherits(item, "QQuickAbstractButton")
+        && item->property("iconName").toString() == QLatin1String("chevron-down"))
+        return item;
+    for (QQuickItem* child : item->childItems())
+        if (QQuickItem* found = child->isVisible() ? tileMenuButton(child) : nullptr)
+            return found;
+    return nullptr;
+}
+
+// The open drop-down menu, or none.
+QQuickItem* openMenu(QQuickWindow* window)
+{
+    for (QQuickItem* child : window->contentItem()->childItems()) {
+        if (!inherits(child, "QQuickOverlay"))
+            continue;
+        for (QQuickItem* item : child->childItems())
+            if (item->isVisible() && inherits(item, "QQuickPopupItem") && item->parent() && item->parent()->inherits("QQuickMenu"))
+                return item;
+    }
+    return nullptr;
+}
+
 // Closes whatever popups a page left open, so the next page is seen on its own.
 void closePopups(QQuickWindow* window)
 {
@@ -287,9 +312,22 @@ private slots:
             closePopups(window);
             QTest::qWait(50);
         }
-        // The main view's states that the pages above do not show: the network badge on Wi-Fi and
-        // without a network, and the banner of a running assistance tunnel.
+        // The main view's states that the pages above do not show: a tile's menu (made on its first
+        // opening), the network badge on Wi-Fi and without a network, and the banner of a running
+        // assistance tunnel.
         QVERIFY(QMetaObject::invokeMethod(window, "openPage", Q_ARG(QVariant, QStringLiteral("main"))));
+        QQuickItem* menuButton = tileMenuButton(window->contentItem());
+        QVERIFY2(menuButton, "no tile with a menu on the main view");
+        QTest::mouseClick(window, Qt::LeftButton, {}, menuButton->mapToScene(QPointF(menuButton->width() / 2, menuButton->height() / 2)).toPoint());
+        QVERIFY2(QTest::qWaitFor([&] { return openMenu(window) != nullptr; }, 2000), "the tile's menu does not open");
+        QTest::qWait(300); // the menu fades in
+        look(window, shots, QStringLiteral("tile-menu"), failures);
+        if (onScreenKeyboard) {
+            closePopups(window);
+        } else {
+            QTest::keyClick(window, Qt::Key_Escape);
+            QVERIFY2(QTest::qWaitFor([&] { return openMenu(window) == nullptr; }, 2000), "Escape does not close the tile's menu");
+        }
         const auto restoreNetwork = qScopeGuard([] { SimulatedNetwork::reset(); });
         auto nmcli = [](const QStringList& args) { return CommandRunner::instance().run("sudo", QStringList("nmcli") + args).exitCode; };
         QCOMPARE(nmcli({"con", "down", "Wired connection 1"}), 0);
