@@ -71,6 +71,19 @@ private slots:
         }
         QVERIFY2(count > 5, "the screens are not compiled in");
     }
+    // The controls are styled here, on the templates: importing QtQuick.Controls would load a
+    // whole style (and compile its files) for nothing on every start.
+    void importsNoControlsStyle_data() { loads_data(); }
+    void importsNoControlsStyle()
+    {
+        QFETCH(QString, url);
+        QFile file(url.mid(3)); // qrc:/x -> :/x
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        static const QRegularExpression controls(QStringLiteral("^\\s*import\\s+QtQuick\\.Controls\\b"),
+                                                 QRegularExpression::MultilineOption);
+        QVERIFY2(!controls.match(QString::fromUtf8(file.readAll())).hasMatch(), "imports QtQuick.Controls");
+    }
+
     void loads()
     {
         QFETCH(QString, url);
