@@ -204,19 +204,9 @@ Item {
                         text: qsTr("VNC")
                         onTriggered: page.openForm(kinds.vnc, -1)
                     }
-                    T.MenuSeparator {
-                        implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
-                                                implicitContentWidth + leftPadding + rightPadding)
-                        implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
-                                                 implicitContentHeight + topPadding + bottomPadding)
+                    NxMenuSeparator {
                         visible: page.applicationEnabled[5]
                         height: visible ? implicitHeight : 0
-                        topPadding: Theme.spacingXs
-                        bottomPadding: Theme.spacingXs
-                        contentItem: Rectangle {
-                            implicitHeight: 1
-                            color: Theme.border
-                        }
                     }
                     NxMenuItem {
                         visible: page.applicationEnabled[5]

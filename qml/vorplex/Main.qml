@@ -198,28 +198,29 @@ T.ApplicationWindow {
     font.family: Theme.fontFamily
     font.pixelSize: Theme.fontBody
 
-    // Dialogs are loaded and made the first time they are needed: neither their types nor their
-    // objects hold up the first frame. `init` wires the new dialog's signals.
+    // Dialogs are made the first time they are needed, most from their file, so neither their types
+    // nor their objects hold up the first frame. `source` is a file name or a Component (whose
+    // String() names it uniquely); `init` wires the new dialog's signals.
     property var madeDialogs: ({})
-    function made(file, init, properties) {
-        if (!madeDialogs[file]) {
-            var component = Qt.createComponent(file);
-            var dialog = component.createObject(window, properties || {});
+    function made(source, init) {
+        var key = String(source);
+        if (!madeDialogs[key]) {
+            var component = typeof source === "string" ? Qt.createComponent(source) : source;
+            var dialog = component.createObject(window);
             if (!dialog) {
-                console.warn("Cannot make", file, component.errorString());
+                console.warn("Cannot make", key, component.errorString());
                 return null;
             }
             if (init)
                 init(dialog);
-            madeDialogs[file] = dialog;
+            madeDialogs[key] = dialog;
         }
-        return madeDialogs[file];
+        return madeDialogs[key];
     }
-    function rdpLogin() {
-        return made("RDPLoginDialog.qml", function (dialog) {
-            dialog.failed.connect(function () { window.showError(qsTr("Failed to connect")); });
-        });
+    function reportsFailure(dialog) {
+        dialog.failed.connect(function () { window.showError(qsTr("Failed to connect")); });
     }
+    function rdpLogin() { return made("RDPLoginDialog.qml", reportsFailure); }
     function formDialog() {
         return made("ConnectionFormDialog.qml", function (dialog) {
             dialog.saved.connect(function (name, added) {
@@ -227,16 +228,9 @@ T.ApplicationWindow {
             });
         });
     }
-    function errorDialog() {
-        return made("../custom/NorbixUi/ModalDialog.qml", null,
-                    { title: qsTr("Connection error"), showCancel: false, okText: qsTr("Close") });
-    }
+    function errorDialog() { return made(errorDialogComponent); }
     function remotePopup() { return made("AdminConnectionPopup.qml"); }
-    function vncPassword() {
-        return made("VNCPasswordDialog.qml", function (dialog) {
-            dialog.failed.connect(function () { window.showError(qsTr("Failed to connect")); });
-        });
-    }
+    function vncPassword() { return made("VNCPasswordDialog.qml", reportsFailure); }
     function connectionCheck() { return made("ConnectionCheckDialog.qml"); }
 
     ConnectionKinds {
@@ -361,6 +355,16 @@ T.ApplicationWindow {
     CitrixProgressPopup {
         id: citrixProgress
         mode: "launch"
+    }
+
+    // ModalDialog is loaded at start anyway (the Citrix progress above is one).
+    Component {
+        id: errorDialogComponent
+        ModalDialog {
+            title: qsTr("Connection error")
+            showCancel: false
+            okText: qsTr("Close")
+        }
     }
 
     Toast {

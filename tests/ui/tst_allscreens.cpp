@@ -170,18 +170,25 @@ bool refreshNetworkStatus(QQuickWindow* window, int kind)
     return QTest::qWaitFor([&] { return status->property("kind").toInt() == kind; }, 3000);
 }
 
+// The items of the window's popups (each one's parent is its popup), bottom first.
+QList<QQuickItem*> popupItems(QQuickWindow* window)
+{
+    QList<QQuickItem*> items;
+    for (QQuickItem* child : window->contentItem()->childItems())
+        if (inherits(child, "QQuickOverlay"))
+            for (QQuickItem* item : child->childItems())
+                if (inherits(item, "QQuickPopupItem") && item->parent())
+                    items << item;
+    return items;
+}
+
 // The top-most open popup that takes the keyboard (toasts do not), or none.
 QQuickItem* openDialog(QQuickWindow* window)
 {
     QQuickItem* top = nullptr;
-    for (QQuickItem* child : window->contentItem()->childItems()) {
-        if (!inherits(child, "QQuickOverlay"))
-            continue;
-        for (QQuickItem* item : child->childItems())
-            if (item->isVisible() && inherits(item, "QQuickPopupItem") && item->parent()
-                && item->parent()->property("focus").toBool())
-                top = item;
-    }
+    for (QQuickItem* item : popupItems(window))
+        if (item->isVisible() && item->parent()->property("focus").toBool())
+            top = item;
     return top;
 }
 
@@ -213,26 +220,17 @@ QQuickItem* tileMenuButton(QQuickItem* item)
 // The open drop-down menu, or none.
 QQuickItem* openMenu(QQuickWindow* window)
 {
-    for (QQuickItem* child : window->contentItem()->childItems()) {
-        if (!inherits(child, "QQuickOverlay"))
-            continue;
-        for (QQuickItem* item : child->childItems())
-            if (item->isVisible() && inherits(item, "QQuickPopupItem") && item->parent() && item->parent()->inherits("QQuickMenu"))
-                return item;
-    }
+    for (QQuickItem* item : popupItems(window))
+        if (item->isVisible() && item->parent()->inherits("QQuickMenu"))
+            return item;
     return nullptr;
 }
 
 // Closes whatever popups a page left open, so the next page is seen on its own.
 void closePopups(QQuickWindow* window)
 {
-    for (QQuickItem* child : window->contentItem()->childItems()) {
-        if (!inherits(child, "QQuickOverlay"))
-            continue;
-        for (QQuickItem* item : child->childItems())
-            if (inherits(item, "QQuickPopupItem") && item->parent())
-                QMetaObject::invokeMethod(item->parent(), "close");
-    }
+    for (QQuickItem* item : popupItems(window))
+        QMetaObject::invokeMethod(item->parent(), "close");
 }
 
 } // namespace

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import QtQuick.Window 2.15
 
-// Drop-down menu in the shell's look; fill it with NxMenuItem and MenuSeparator.
+// Drop-down menu in the shell's look; fill it with NxMenuItem and NxMenuSeparator.
 T.Menu {
     id: menu
 
