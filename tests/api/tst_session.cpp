@@ -181,7 +181,7 @@ private slots:
         // Frames are handled in order: auth and the three requests, each ignored.
         QTRY_VERIFY_WITH_TIMEOUT(ignored >= 4, 20000);
         qInstallMessageHandler(previous);
-        for (const FakeCommandRunner::Call& call : qAsConst(m_runner.calls))
+        for (const FakeCommandRunner::Call& call : m_runner.calls.snapshot())
             QVERIFY2(call.program != QLatin1String("/opt/norbix/tools/tunnel"), "a tunnel was opened while unmanaged");
         // Then the marker: its answer must be the first frame the peer gets.
         setManagedFlag(true);

@@ -147,7 +147,7 @@ private slots:
         finishStage();
         QCOMPARE(messages.constLast().at(0).toString(), message);
         QCOMPARE(ended.count(), 1);
-        for (const auto& call : m_runner.calls)
+        for (const auto& call : m_runner.calls.snapshot())
             QVERIFY(!call.detached);
     }
 

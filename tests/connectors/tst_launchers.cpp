@@ -116,7 +116,7 @@ private slots:
             TestSandbox::writeFile(m_sandbox->path("/opt/firefox/firefox"), "#!/bin/sh\n");
         BrowserConnector::connect(Connection(QJsonObject{{"type", 4}, {"address", "site"}, {"kiosk", kiosk}, {"clearCache", clearCache}}));
         QCOMPARE(m_runner->commandLines(), commands);
-        for (const auto& call : m_runner->calls)
+        for (const auto& call : m_runner->calls.snapshot())
             QVERIFY(call.detached);
     }
 
@@ -235,7 +235,7 @@ private slots:
         TeamsThread watcher;
         watcher.check();
         QStringList detached;
-        for (const auto& call : m_runner->calls) {
+        for (const auto& call : m_runner->calls.snapshot()) {
             if (call.detached)
                 detached = call.commandLine();
         }

@@ -5,8 +5,6 @@
 
 #include <utility>
 
-namespace {
-
 // Finishes when waited for, or when the test calls finishAll().
 class FakeProcess : public RunningProcess {
 public:
@@ -15,7 +13,7 @@ public:
     {
         m_result = m_runner.record(program, arguments, false);
         m_running = m_result.started;
-        m_runner.running << this;
+        m_runner.setRunning(this, true);
         if (m_running && m_runner.finishOnStart)
             QTimer::singleShot(0, this, [this] { finish(); });
     }
@@ -32,14 +30,14 @@ public:
     QByteArray readAllStandardError() override { return std::exchange(m_result.standardError, {}); }
     void terminate() override { finish(); }
     void kill() override { finish(); }
-    ~FakeProcess() override { m_runner.running.removeAll(this); }
+    ~FakeProcess() override { m_runner.setRunning(this, false); }
 
     void finish()
     {
         if (!m_running)
             return;
         m_running = false;
-        m_runner.running.removeAll(this);
+        m_runner.setRunning(this, false);
         if (!m_result.standardOutput.isEmpty())
             emit readyReadStandardOutput();
         emit finished(m_result.exitCode);
@@ -51,7 +49,41 @@ private:
     bool m_running = false;
 };
 
-} // namespace
+void FakeCallLog::append(const FakeCommandCall& call)
+{
+    QMutexLocker locker(&m_mutex);
+    m_calls.append(call);
+}
+
+void FakeCallLog::clear()
+{
+    QMutexLocker locker(&m_mutex);
+    m_calls.clear();
+}
+
+int FakeCallLog::size() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_calls.size();
+}
+
+FakeCommandCall FakeCallLog::at(int index) const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_calls.at(index);
+}
+
+FakeCommandCall FakeCallLog::last() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_calls.last();
+}
+
+QList<FakeCommandCall> FakeCallLog::snapshot() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_calls;
+}
 
 FakeCommandRunner::FakeCommandRunner()
 {
@@ -72,6 +104,7 @@ void FakeCommandRunner::answer(const QString& commandLine, const QByteArray& sta
     result.exitCode = exitCode;
     result.standardOutput = standardOutput;
     result.standardError = standardError;
+    QMutexLocker locker(&m_mutex);
     m_answers.insert(commandLine, result);
 }
 
@@ -88,8 +121,8 @@ CommandResult FakeCommandRunner::lookup(const QString& program, const QStringLis
 
 CommandResult FakeCommandRunner::record(const QString& program, const QStringList& arguments, bool detached)
 {
-    QMutexLocker locker(&m_mutex);
     calls.append({program, arguments, detached, QThread::currentThread()});
+    QMutexLocker locker(&m_mutex);
     return lookup(program, arguments);
 }
 
@@ -110,9 +143,21 @@ std::unique_ptr<RunningProcess> FakeCommandRunner::createProcess()
     return std::make_unique<FakeProcess>(*this);
 }
 
+void FakeCommandRunner::setRunning(RunningProcess* process, bool running)
+{
+    QMutexLocker locker(&m_mutex);
+    m_running.removeAll(process);
+    if (running)
+        m_running.append(process);
+}
+
 void FakeCommandRunner::finishAll()
 {
-    const QList<RunningProcess*> list = running;
+    QList<RunningProcess*> list;
+    {
+        QMutexLocker locker(&m_mutex);
+        list = m_running;
+    }
     for (RunningProcess* process : list)
         static_cast<FakeProcess*>(process)->finish();
 }
@@ -120,7 +165,8 @@ void FakeCommandRunner::finishAll()
 QList<QStringList> FakeCommandRunner::commandLines() const
 {
     QList<QStringList> lines;
-    for (const Call& call : calls)
+    const QList<Call> all = calls.snapshot();
+    for (const Call& call : all)
         lines << call.commandLine();
     return lines;
 }
@@ -128,7 +174,8 @@ QList<QStringList> FakeCommandRunner::commandLines() const
 QList<QStringList> FakeCommandRunner::commandLinesOfThisThread() const
 {
     QList<QStringList> lines;
-    for (const Call& call : calls)
+    const QList<Call> all = calls.snapshot();
+    for (const Call& call : all)
         if (call.thread == QThread::currentThread())
             lines << call.commandLine();
     return lines;

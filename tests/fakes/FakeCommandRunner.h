@@ -7,17 +7,40 @@
 #include <QMutex>
 #include <QThread>
 
+struct FakeCommandCall {
+    QString program;
+    QStringList arguments;
+    bool detached = false;
+    QThread* thread = nullptr; // the thread that ran it
+    QStringList commandLine() const { return QStringList(program) + arguments; }
+};
+
+// The commands run so far. Background workers (the settings collector, session threads) append
+// while a test reads or clears, so every access takes the lock and hands out copies; iterate
+// over snapshot().
+class FakeCallLog {
+public:
+    void append(const FakeCommandCall& call);
+    void clear();
+    int size() const;
+    bool isEmpty() const { return size() == 0; }
+    FakeCommandCall at(int index) const;
+    FakeCommandCall operator[](int index) const { return at(index); }
+    FakeCommandCall first() const { return at(0); }
+    FakeCommandCall last() const;
+    FakeCommandCall constLast() const { return last(); }
+    QList<FakeCommandCall> snapshot() const;
+
+private:
+    mutable QMutex m_mutex;
+    QList<FakeCommandCall> m_calls;
+};
+
 // Records every command and answers from canned results; installs itself as the process-wide
 // runner for its lifetime.
 class FakeCommandRunner : public CommandRunner {
 public:
-    struct Call {
-        QString program;
-        QStringList arguments;
-        bool detached = false;
-        QThread* thread = nullptr; // the thread that ran it
-        QStringList commandLine() const { return QStringList(program) + arguments; }
-    };
+    using Call = FakeCommandCall;
 
     FakeCommandRunner();
     ~FakeCommandRunner() override;
@@ -33,8 +56,7 @@ public:
     // background workers (the settings collector, session threads) that may run meanwhile.
     QList<QStringList> commandLinesOfThisThread() const;
 
-    QList<Call> calls;
-    QList<RunningProcess*> running;
+    FakeCallLog calls;
     bool finishOnStart = false; // started processes end by themselves, through their thread's event loop
 
     CommandResult record(const QString& program, const QStringList& arguments, bool detached);
@@ -45,7 +67,10 @@ protected:
     bool executeDetached(const QString& program, const QStringList& arguments, qint64* pid) override;
 
 private:
+    friend class FakeProcess;
     CommandResult lookup(const QString& program, const QStringList& arguments) const;
+    void setRunning(RunningProcess* process, bool running);
     QHash<QString, CommandResult> m_answers;
-    QMutex m_mutex; // session workers run commands from their own threads
+    QList<RunningProcess*> m_running;
+    mutable QMutex m_mutex; // session workers run commands from their own threads
 };

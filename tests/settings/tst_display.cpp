@@ -36,7 +36,7 @@ XrandrOutputSetting output(const QString& name, const QString& resolution, const
 QStringList xrandrCalls(const FakeCommandRunner& runner)
 {
     QStringList lines;
-    for (const auto& call : runner.calls) {
+    for (const auto& call : runner.calls.snapshot()) {
         if (call.program == QLatin1String("xrandr") && !call.arguments.isEmpty())
             lines << call.commandLine().join(QLatin1Char(' '));
     }
@@ -520,7 +520,7 @@ private slots:
         } else {
             QCOMPARE(calls, QStringList(command));
         }
-        for (const auto& call : m_runner->calls) {
+        for (const auto& call : m_runner->calls.snapshot()) {
             for (int i = 0; i < call.arguments.size(); ++i) {
                 if (call.arguments.at(i) == QLatin1String("--mode") || call.arguments.at(i) == QLatin1String("--rate")) {
                     QVERIFY(i + 1 < call.arguments.size());

@@ -216,7 +216,8 @@ private slots:
         manager.setDNS(dns.value(0), dns.value(1), dns.value(2));
         manager.apply();
         QCOMPARE(m_runner->commandLines(), commands);
-        QVERIFY(std::none_of(m_runner->calls.cbegin(), m_runner->calls.cend(), [](const auto& call) { return call.detached; }));
+        const auto calls = m_runner->calls.snapshot();
+        QVERIFY(std::none_of(calls.cbegin(), calls.cend(), [](const auto& call) { return call.detached; }));
         QCOMPARE(m_reports, 1);
     }
 
@@ -418,7 +419,7 @@ private slots:
         TestSandbox::writeFile(m_sandbox->dataFile("networks.json"), R"([{"ssid": "Guest", "autoConnect": true}])");
         NetworkManager().autoConnect();
         QList<QStringList> detached;
-        for (const FakeCommandRunner::Call& call : m_runner->calls) {
+        for (const FakeCommandRunner::Call& call : m_runner->calls.snapshot()) {
             if (call.detached)
                 detached << call.commandLine();
         }
