@@ -6,8 +6,6 @@
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
-#include <cstdio>
-
 int main(int argc, char* argv[])
 {
     QGuiApplication app(argc, argv);
@@ -23,14 +21,7 @@ Window {
     auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
     if (!window)
         return 1;
-    bool seen = false;
-    QObject::connect(window, &QQuickWindow::frameSwapped, [&seen] {
-        if (!seen) {
-            seen = true;
-            std::fputs("norbix: first frame\n", stdout);
-            std::fflush(stdout);
-        }
-    });
+    announceFirstFrame(window);
     window->show();
     return app.exec();
 }

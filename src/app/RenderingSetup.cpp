@@ -7,6 +7,10 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 
+#include <atomic>
+#include <cstdio>
+#include <memory>
+
 namespace {
 
 bool openGlContextWorks()
@@ -61,4 +65,18 @@ bool chooseSceneGraphBackend()
     SceneGraphBackendProbe probe;
     probe.start();
     return probe.finish();
+}
+
+void announceFirstFrame(QQuickWindow* window)
+{
+    auto announced = std::make_shared<std::atomic_bool>(false);
+    QObject::connect(
+        window, &QQuickWindow::frameSwapped, window,
+        [announced] {
+            if (announced->exchange(true))
+                return;
+            std::fputs("norbix: first frame\n", stdout);
+            std::fflush(stdout);
+        },
+        Qt::DirectConnection);
 }

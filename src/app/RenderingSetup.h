@@ -2,6 +2,8 @@
 
 #include <thread>
 
+class QQuickWindow;
+
 // Falls back to Qt Quick's software renderer where no OpenGL context can be made (the offscreen
 // platform, X servers without GLX, weak thin-client GPUs).
 //
@@ -29,3 +31,8 @@ private:
 
 // Both steps at once, for programs with nothing to do meanwhile.
 bool chooseSceneGraphBackend();
+
+// Prints "norbix: first frame" on stdout once the window's first frame is on screen (benchmarks).
+// The render thread says so as it swaps: a queued signal would reach the GUI thread only after it
+// has drawn the frame of the next expose, which the X server sends right after the first.
+void announceFirstFrame(QQuickWindow* window);

@@ -1,5 +1,7 @@
 #include "WindowPresenter.h"
 
+#include "RenderingSetup.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QImage>
@@ -7,8 +9,6 @@
 #include <QScreen>
 #include <QQuickWindow>
 #include <QVariant>
-
-#include <cstdio>
 
 WindowPresenter::WindowPresenter(QObject* root, const ShellOptions& options, QObject* parent)
     : QObject(parent), m_window(qobject_cast<QQuickWindow*>(root)), m_options(options)
@@ -29,6 +29,8 @@ WindowPresenter::WindowPresenter(QObject* root, const ShellOptions& options, QOb
         connect(&m_deadline, &QTimer::timeout, this, &WindowPresenter::saveScreenshot);
     }
     connect(m_window, &QQuickWindow::frameSwapped, this, &WindowPresenter::onFrameSwapped);
+    if (options.firstFrameMarker)
+        announceFirstFrame(m_window);
 
     if (options.size.isValid()) {
         m_window->resize(options.size);
@@ -45,10 +47,6 @@ void WindowPresenter::onFrameSwapped()
 {
     if (!m_firstFrameSeen) {
         m_firstFrameSeen = true;
-        if (m_options.firstFrameMarker) {
-            std::fputs("norbix: first frame\n", stdout);
-            std::fflush(stdout);
-        }
         if (!m_options.screenshotFile.isEmpty())
             m_deadline.start();
         else
