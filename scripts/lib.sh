@@ -6,8 +6,8 @@ NORBIX_TOP=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # Every Debian package the build, the tests and the simulated terminal need.
 NORBIX_PACKAGES=(
     build-essential cmake ninja-build ccache pkg-config fonts-dejavu-core
-    qtbase5-dev qtdeclarative5-dev qtdeclarative5-dev-tools qtquickcontrols2-5-dev libqt5websockets5-dev qttools5-dev qttools5-dev-tools
-    qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-templates2
+    qtbase5-dev qtdeclarative5-dev qtdeclarative5-dev-tools libqt5websockets5-dev qttools5-dev qttools5-dev-tools
+    qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-templates2
     qml-module-qtquick-layouts qml-module-qtqml-models2 qml-module-qtquick-shapes
     libssl-dev openssl libvncserver-dev libxdamage-dev libxcb-shm0-dev
     xvfb xauth x11-xserver-utils
