@@ -3,6 +3,7 @@
 #include "CommandRunner.h"
 #include "QmlSingleton.h"
 #include "ViewDialog.h"
+#include "VncClientLibrary.h"
 #include "VncFlow.h"
 #include "VncInput.h"
 #include "X11ShmPresenter.h"
@@ -26,9 +27,6 @@
 #include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <time.h>
-
-// The TurboJPEG decoder libvncclient carries and exports (no header of its own is installed).
-extern "C" int tjDestroy(void* handle);
 
 VNCConnector* VNCConnector::m_instance = nullptr;
 QByteArray VNCConnector::m_password;
@@ -76,7 +74,7 @@ void VNCConnector::registerFlowMessages()
         };
         return e;
     }();
-    static const bool registered = (rfbClientRegisterExtension(&extension), true);
+    static const bool registered = (VncClientLibrary::get()->registerExtension(&extension), true);
     Q_UNUSED(registered);
 }
 
@@ -94,8 +92,9 @@ rfbBool VNCConnector::handleFlowMessage(rfbClient* client, uint8_t type)
     }
     if (type != VncFlow::kFenceMessage)
         return FALSE;
+    const VncClientLibrary& vnc = *VncClientLibrary::get();
     QByteArray header(VncFlow::kFenceHeaderSize, '\0');
-    if (!ReadFromRFBServer(client, header.data(), header.size()))
+    if (!vnc.read(client, header.data(), header.size()))
         return FALSE;
     const std::optional<VncFlow::FenceHeader> fence = VncFlow::parseFenceHeader(header);
     if (!fence) {
@@ -103,12 +102,12 @@ rfbBool VNCConnector::handleFlowMessage(rfbClient* client, uint8_t type)
         return FALSE;
     }
     QByteArray payload(fence->payloadLength, '\0');
-    if (!payload.isEmpty() && !ReadFromRFBServer(client, payload.data(), payload.size()))
+    if (!payload.isEmpty() && !vnc.read(client, payload.data(), payload.size()))
         return FALSE;
     // Messages are handled in the order they come, so what the fence waits for is already done.
     if (fence->flags & VncFlow::kFenceRequest) {
         const QByteArray answer = VncFlow::fenceAnswer(fence->flags, payload);
-        return WriteToRFBServer(client, answer.constData(), answer.size());
+        return vnc.write(client, answer.constData(), answer.size());
     }
     return TRUE; // the answer to a fence of ours: this viewer sends none
 }
@@ -264,7 +263,7 @@ void VNCConnector::followContinuous()
     if (!cl || wanted == m_continuousOn)
         return;
     const QByteArray message = VncFlow::enableContinuousUpdates(wanted, QRect(0, 0, cl->width, cl->height));
-    if (!WriteToRFBServer(cl, message.constData(), message.size()))
+    if (!m_vnc->write(cl, message.constData(), message.size()))
         return;
     m_continuousOn = wanted;
     qInfo() << (wanted ? "VNC continuous updates on" : "VNC continuous updates off");
@@ -281,7 +280,7 @@ void VNCConnector::applyChoice(const VncEncodingChoice& choice)
     cl->appData.compressLevel = m_choice.compressLevel;
     cl->appData.qualityLevel = m_choice.qualityLevel;
     cl->appData.enableJPEG = m_choice.qualityLevel >= 0 ? TRUE : FALSE;
-    if (connected && !SetFormatAndEncodings(cl))
+    if (connected && !m_vnc->setFormatAndEncodings(cl))
         qWarning() << "VNC encodings could not be sent";
 }
 
@@ -298,8 +297,11 @@ bool VNCConnector::initConnection(const Connection& connection)
     if (!resolveHost(connection.getAddress()))
         return false;
     m_password = connection.get(QStringLiteral("password")).toLocal8Bit();
+    m_vnc = VncClientLibrary::get();
+    if (!m_vnc)
+        return false;
 
-    cl = rfbGetClient(8, 3, 4);
+    cl = m_vnc->getClient(8, 3, 4);
     const VncInput::PixelFormat format = VncInput::pixelFormatFor(QImage(1, 1, QImage::Format_RGB32).depth());
     cl->format.depth = format.depth;
     cl->format.bitsPerPixel = format.bitsPerPixel;
@@ -350,7 +352,7 @@ bool VNCConnector::initConnection(const Connection& connection)
     QByteArray server = connection.getAddress().toLocal8Bit();
     int argc = 2;
     char* argv[] = {program.data(), server.data(), nullptr};
-    if (!rfbInitClient(cl, &argc, argv)) {
+    if (!m_vnc->initClient(cl, &argc, argv)) {
         cl = nullptr; // freed by the library
         return false;
     }
@@ -387,16 +389,16 @@ void VNCConnector::handleEvent()
         return;
     }
     // Data the library has already buffered does not wake a wait on the socket.
-    int ready = cl->buffered > 0 ? 1 : WaitForMessage(cl, 0);
+    int ready = cl->buffered > 0 ? 1 : m_vnc->waitForMessage(cl, 0);
     if (ready == 0 && m_socketNotifier) {
         // Nothing from the server: sleep in the toolkit's loop, which the socket wakes too, so a
         // key or a click goes out at once rather than after a wait on the socket alone.
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         if (!cl || m_serverGone)
             return;
-        ready = cl->buffered > 0 ? 1 : WaitForMessage(cl, 0);
+        ready = cl->buffered > 0 ? 1 : m_vnc->waitForMessage(cl, 0);
     } else if (ready == 0) {
-        ready = WaitForMessage(cl, 10000); // µs
+        ready = m_vnc->waitForMessage(cl, 10000); // µs
     }
     // Only updates are measured: a fence or another small message would take the open request
     // and make the update behind it look like an answer without a round trip.
@@ -412,12 +414,12 @@ void VNCConnector::handleEvent()
         // one update): with updates back to back the count stays, and the server cannot run
         // ahead of the link and queue frames in front of the next input.
         const bool paused = m_messageStart - m_lastUpdateEnd > qint64(m_meter.figures().latencyMs * 1000);
-        if (m_overlapRequests && !m_continuousOn && (paused || !m_overlapStarted) && SendIncrementalFramebufferUpdateRequest(cl)) {
+        if (m_overlapRequests && !m_continuousOn && (paused || !m_overlapStarted) && m_vnc->sendIncrementalUpdateRequest(cl)) {
             m_openRequest = now;
             m_overlapStarted = true;
         }
     }
-    if (ready < 0 || (ready > 0 && !HandleRFBServerMessage(cl))) {
+    if (ready < 0 || (ready > 0 && !m_vnc->handleServerMessage(cl))) {
         qWarning() << "VNC server closed the connection";
         m_serverGone = true;
         m_socketNotifier.reset(); // a closed socket stays readable
@@ -428,14 +430,14 @@ void VNCConnector::handleEvent()
 void VNCConnector::cursorEvent(CursorEvent event)
 {
     if (cl)
-        SendPointerEvent(cl, event.pos.x(), event.pos.y(), event.mask);
+        m_vnc->sendPointerEvent(cl, event.pos.x(), event.pos.y(), event.mask);
 }
 
 void VNCConnector::sendKey(KeyEvent event)
 {
     qDebug() << "Send key" << event.key;
     if (cl)
-        SendKeyEvent(cl, VncInput::keysymForQtKey(event.key), event.pressed ? TRUE : FALSE);
+        m_vnc->sendKeyEvent(cl, VncInput::keysymForQtKey(event.key), event.pressed ? TRUE : FALSE);
 }
 
 void VNCConnector::terminate()
@@ -445,10 +447,10 @@ void VNCConnector::terminate()
         // This libvncclient (0.9.14) makes a JPEG decoder for the first Tight JPEG rectangle and
         // does not free it in its cleanup; a later one that does finds it already gone.
         if (cl->tjhnd) {
-            tjDestroy(cl->tjhnd);
+            m_vnc->tjDestroy(cl->tjhnd);
             cl->tjhnd = nullptr;
         }
-        rfbClientCleanup(cl);
+        m_vnc->cleanup(cl);
     }
     cl = nullptr; // input that arrives after the window closed must not reach a freed client
 }

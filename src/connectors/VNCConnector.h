@@ -15,6 +15,7 @@
 class QQmlEngine;
 class QJSEngine;
 class RunningProcess;
+struct VncClientLibrary;
 struct _rfbClient;
 
 // The built-in VNC viewer's session on libvncclient: one session at a time, run on the main thread
@@ -92,6 +93,7 @@ private:
     bool m_terminate = false;
     bool m_serverGone = false;
     _rfbClient* cl = nullptr;
+    const VncClientLibrary* m_vnc = nullptr; // set with cl
     static QByteArray m_password;
     static unsigned m_networkTimeout;
     static QImage m_image;

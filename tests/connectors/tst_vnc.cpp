@@ -7,6 +7,7 @@
 #include "VncInput.h"
 #include "X11ShmPresenter.h"
 #include "ViewDialog.h"
+#include "VncClientLibrary.h"
 
 #include <QGraphicsPixmapItem>
 #include <QGraphicsView>
@@ -45,6 +46,13 @@ private:
     QList<QColor> m_colours;
     int m_step = 0;
 };
+
+// Whether a library whose file name contains `name` is mapped into this process.
+bool mapped(const char* name)
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(name);
+}
 
 class tst_Vnc : public QObject {
     Q_OBJECT
@@ -269,6 +277,34 @@ private slots:
         QVERIFY(!presenter.isShared(frame));
         QVERIFY(!presenter.present(1, frame, frame.rect(), QPoint()));
         QVERIFY(presenter.allocateFrame(QSize(0, 16)).isNull());
+    }
+
+    // The library is not loaded with the program, only when asked for; a file that is missing or
+    // is not the library is refused with the reason, never half used.
+    void clientLibrary()
+    {
+        QVERIFY2(!mapped("libvncclient"), "libvncclient is loaded at start");
+
+        QString error;
+        QVERIFY(!VncClientLibrary::load("/nonexistent/libvncclient.so.1", &error));
+        QVERIFY2(error.contains("/nonexistent/libvncclient.so.1"), qPrintable(error));
+
+        error.clear();
+        QVERIFY(!VncClientLibrary::load("libz.so.1", &error));
+        QVERIFY2(error.startsWith("libz.so.1 lacks rfbGetClient, rfbInitClient, rfbClientCleanup,"), qPrintable(error));
+        QVERIFY2(error.endsWith(", tjDestroy"), qPrintable(error));
+
+        error.clear();
+        const std::unique_ptr<VncClientLibrary> library = VncClientLibrary::load(VncClientLibrary::kFileName, &error);
+        QVERIFY2(library, qPrintable(error));
+        QVERIFY(error.isEmpty());
+        QVERIFY(mapped("libvncclient"));
+        // A client made and freed through it: the functions are the library's own.
+        rfbClient* client = library->getClient(8, 3, 4);
+        QVERIFY(client);
+        QCOMPARE(client->format.bitsPerPixel, 32);
+        library->cleanup(client);
+        QVERIFY(VncClientLibrary::get());
     }
 
     void dialogKeysAndPercentage()
