@@ -202,16 +202,20 @@ QJsonObject APICollectorThread::collect()
 
 QJsonObject APICollectorThread::getData() const
 {
-    QMutexLocker locker(&m_mutex);
-    return m_data;
+    {
+        QMutexLocker locker(&m_mutex);
+        if (!m_data.isEmpty())
+            return m_data;
+    }
+    // Asked before the first collection has finished: the document as it is now.
+    return collect();
 }
 
 void APICollectorThread::start()
 {
+    // The first document comes from the run() that start-up asks for right after: collecting here
+    // too would run every command twice while the shell starts.
     qInfo() << "Settings collector started";
-    const QJsonObject document = collect();
-    QMutexLocker locker(&m_mutex);
-    m_data = document;
 }
 
 void APICollectorThread::run(bool shouldEmit)

@@ -24,11 +24,12 @@ public:
     // runs, it runs once.
     static QJsonObject collect();
 
-    // The last gathered document, at once, from any thread.
+    // The last gathered document, from any thread; before the first run() has finished, the
+    // document gathered on the caller's thread.
     QJsonObject getData() const;
 
 public slots:
-    // Run once when the thread starts: the first document, without reporting it.
+    // Run once when the thread starts; gathers nothing (start-up asks for a run() at once).
     void start();
     // Gathers again; reports the document when asked to and when it differs from the last report.
     void run(bool shouldEmit);

@@ -54,6 +54,19 @@ private slots:
         QCOMPARE(ready.count(), 2);
     }
 
+    // Start-up asks for a run at once: the thread's start gathers nothing of its own, and a
+    // document asked for before the first run is gathered then.
+    void startGathersNothing()
+    {
+        TestSandbox sandbox;
+        FakeCommandRunner runner;
+        APICollectorThread collector;
+        collector.start();
+        QVERIFY(runner.calls.isEmpty());
+        QVERIFY(!collector.getData().isEmpty());
+        QVERIFY(!runner.calls.isEmpty());
+    }
+
     // On its own thread, driven by queued calls as the agent drives it.
     void runsOnItsThread()
     {
