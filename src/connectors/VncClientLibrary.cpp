@@ -1,8 +1,6 @@
 #include "VncClientLibrary.h"
 
 #include <QDebug>
-#include <QMutex>
-#include <QMutexLocker>
 #include <QStringList>
 
 #include <dlfcn.h>
@@ -51,16 +49,13 @@ std::unique_ptr<VncClientLibrary> VncClientLibrary::load(const QByteArray& file,
 
 const VncClientLibrary* VncClientLibrary::get()
 {
-    static QMutex mutex;
-    static const VncClientLibrary* library = nullptr; // kept to the end: sessions may still run
-    static bool tried = false;
-    QMutexLocker locker(&mutex);
-    if (!tried) {
-        tried = true;
+    // Kept to the end (sessions may still run at exit); made once, whichever thread asks first.
+    static const VncClientLibrary* const library = [] {
         QString error;
-        library = load(kFileName, &error).release();
-        if (!library)
+        const VncClientLibrary* loaded = load(kFileName, &error).release();
+        if (!loaded)
             qWarning().noquote() << "VNC client library unavailable:" << error;
-    }
+        return loaded;
+    }();
     return library;
 }

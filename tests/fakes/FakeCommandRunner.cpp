@@ -5,6 +5,8 @@
 
 #include <utility>
 
+namespace {
+
 // Finishes when waited for, or when the test calls finishAll().
 class FakeProcess : public RunningProcess {
 public:
@@ -48,6 +50,8 @@ private:
     CommandResult m_result;
     bool m_running = false;
 };
+
+} // namespace
 
 void FakeCallLog::append(const FakeCommandCall& call)
 {

@@ -60,6 +60,8 @@ public:
     bool finishOnStart = false; // started processes end by themselves, through their thread's event loop
 
     CommandResult record(const QString& program, const QStringList& arguments, bool detached);
+    // Kept by the fake processes: started and not yet finished (finishAll() ends them).
+    void setRunning(RunningProcess* process, bool running);
     std::unique_ptr<RunningProcess> createProcess() override;
 
 protected:
@@ -67,9 +69,7 @@ protected:
     bool executeDetached(const QString& program, const QStringList& arguments, qint64* pid) override;
 
 private:
-    friend class FakeProcess;
     CommandResult lookup(const QString& program, const QStringList& arguments) const;
-    void setRunning(RunningProcess* process, bool running);
     QHash<QString, CommandResult> m_answers;
     QList<RunningProcess*> m_running;
     mutable QMutex m_mutex; // session workers run commands from their own threads
